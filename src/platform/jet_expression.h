@@ -1,0 +1,62 @@
+#pragma once
+// The expression language of Sort, Filter and Find criteria: parsed into a tree by our own
+// parser and translated into SQL with bound parameters. No user text ever becomes SQL text.
+
+#include "platform/runtime_error.h"
+
+#include <QString>
+#include <QVariant>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct sqlite3;
+
+namespace mk::jet {
+
+struct Node;
+using NodePtr = std::shared_ptr<const Node>;
+
+// Parses a filter or criteria text. Raises RuntimeError(err::SyntaxInExpression, …) on a
+// text it refuses; nothing is half applied.
+NodePtr parseExpression(const QString& text);
+
+struct SortTerm {
+    NodePtr expr;  // usually a bare column
+    bool descending = false;
+};
+// Parses a sort text: "[Nachname]", "[Numeroatual] ASC", "[A], B DESC".
+std::vector<SortTerm> parseSort(const QString& text);
+
+// If the expression is a plain column reference, its name as written (brackets removed).
+std::optional<QString> plainColumn(const Node& node);
+
+// Maps a name as written to the table's real column name, case-blind; nullopt if none.
+using ColumnResolver = std::function<std::optional<QString>(const QString&)>;
+
+struct Sql {
+    std::string text;              // uses ?NNN placeholders only
+    std::vector<QVariant> params;  // bound in order; an invalid QVariant binds Null
+};
+// Translates a tree into an SQL expression. Raises RuntimeError(err::TooFewParameters, …)
+// for a name that is no column.
+Sql toSql(const Node& node, const ColumnResolver& resolve);
+// An ORDER BY list (without the keywords) for sort terms.
+Sql toSql(const std::vector<SortTerm>& sort, const ColumnResolver& resolve);
+
+// Registers on a connection what the translated SQL calls: the collation "JETTEXT" and the
+// functions for LIKE, LEFT, RIGHT, MID, LEN, UCASE, LCASE, TRIM and number-as-text.
+void registerFunctions(sqlite3* db);
+
+// Text semantics, also used directly by the store.
+// The General order: case ignored, digits before letters, umlauts beside their base letter
+// with the accent only breaking ties, ß as ss; trailing blanks ignored.
+int compareText(const QString& a, const QString& b);
+// A byte key whose memcmp order is compareText's order (for sorting many rows in C++).
+QByteArray sortKey(const QString& text);
+// LIKE with *, ?, #, […], [!…], blind to case.
+bool like(const QString& text, const QString& pattern);
+
+}  // namespace mk::jet
