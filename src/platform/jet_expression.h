@@ -4,7 +4,9 @@
 
 #include "platform/runtime_error.h"
 
+#include <QByteArray>
 #include <QString>
+#include <QStringView>
 #include <QVariant>
 #include <functional>
 #include <memory>
@@ -13,6 +15,7 @@
 #include <vector>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace mk::jet {
 
@@ -27,7 +30,8 @@ struct SortTerm {
     NodePtr expr;  // usually a bare column
     bool descending = false;
 };
-// Parses a sort text: "[Nachname]", "[Numeroatual] ASC", "[A], B DESC".
+// Parses a sort text: "[Nachname]", "[Numeroatual] ASC", "[A], B DESC". A blank text gives
+// no terms.
 std::vector<SortTerm> parseSort(const QString& text);
 
 // If the expression is a plain column reference, its name as written (brackets removed).
@@ -41,10 +45,15 @@ struct Sql {
     std::vector<QVariant> params;  // bound in order; an invalid QVariant binds Null
 };
 // Translates a tree into an SQL expression. Raises RuntimeError(err::TooFewParameters, …)
-// for a name that is no column.
-Sql toSql(const Node& node, const ColumnResolver& resolve);
-// An ORDER BY list (without the keywords) for sort terms.
-Sql toSql(const std::vector<SortTerm>& sort, const ColumnResolver& resolve);
+// for a name that is no column. Placeholders are numbered from firstParam, so that pieces
+// can be joined into one statement: params[i] belongs to ?(firstParam + i).
+Sql toSql(const Node& node, const ColumnResolver& resolve, int firstParam = 1);
+// An ORDER BY list (without the keywords) for sort terms; text orders by "JETTEXT".
+Sql toSql(const std::vector<SortTerm>& sort, const ColumnResolver& resolve, int firstParam = 1);
+
+// Binds params to ?firstParam, ?firstParam+1, …: invalid QVariant as Null, bool as 1/0,
+// integers as integers, double as real, QByteArray as blob, everything else as text.
+void bindParameters(sqlite3_stmt* stmt, const std::vector<QVariant>& params, int firstParam = 1);
 
 // Registers on a connection what the translated SQL calls: the collation "JETTEXT" and the
 // functions for LIKE, LEFT, RIGHT, MID, LEN, UCASE, LCASE, TRIM and number-as-text.
@@ -54,9 +63,16 @@ void registerFunctions(sqlite3* db);
 // The General order: case ignored, digits before letters, umlauts beside their base letter
 // with the accent only breaking ties, ß as ss; trailing blanks ignored.
 int compareText(const QString& a, const QString& b);
-// A byte key whose memcmp order is compareText's order (for sorting many rows in C++).
+// A byte key whose memcmp order is compareText's order (for sorting many rows in C++);
+// equal keys mean compareText gives 0.
 QByteArray sortKey(const QString& text);
-// LIKE with *, ?, #, […], [!…], blind to case.
+// The same key appended to key, for callers that reuse one buffer.
+void appendSortKey(QStringView text, QByteArray& key);
+// LIKE with *, ?, #, […], [!…], blind to case. The whole text must match.
 bool like(const QString& text, const QString& pattern);
+
+// A number as the expression language reads it as text: no leading blank ("123", "1.5").
+QString numberAsText(double value);
+QString numberAsText(qlonglong value);
 
 }  // namespace mk::jet
