@@ -1,0 +1,111 @@
+#include "card/app_state.h"
+
+namespace mk {
+
+Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(clock_)
+{
+    // One line per form: the registry reaches its properties by path from then on.
+    forms.add(Hauptmaske);
+    forms.add(Message);
+    forms.add(AboutBox);
+    forms.add(Form3);
+
+    registerAllHandlers(handlers);
+}
+
+void registerAllHandlers(HandlerTable& table)
+{
+    // Each subsystem adds its one line here: registerCardHandlers(table); …
+    (void)table;
+}
+
+bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)
+{
+    const ControlRef ref = app.forms.control(path);
+    const Handler* handler = app.handlers.find(ref.form, ref.name, event);
+    if (!handler)
+        return false;
+    if (ref.control)
+        args.Index = ref.index;
+    // A copy: the handler may replace the table's entries while it runs.
+    Handler run = *handler;
+    run(app, args);
+    return true;
+}
+
+bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event)
+{
+    EventArgs args;
+    return raiseEvent(app, path, event, args);
+}
+
+void loadForm(Merkkartelle& app, const QString& form)
+{
+    Form& f = app.forms.form(form);
+    if (f.Loaded)
+        return;
+    f.Loaded = true;
+    raiseEvent(app, f.Name, QStringLiteral("Load"));
+}
+
+void showForm(Merkkartelle& app, const QString& form, bool modal)
+{
+    loadForm(app, form);
+    Form& f = app.forms.form(form);
+    const QString name = f.Name;
+    f.Visible = true;
+    if (app.activeForm != name || modal) {
+        app.activeForm = name;
+        raiseEvent(app, name, QStringLiteral("Activate"));
+    }
+    // The struct keeps its address across an unload, so the loop's test reads it afresh.
+    app.ui.showForm(name, modal, [&f] { return f.Loaded && f.Visible; });
+}
+
+void hideForm(Merkkartelle& app, const QString& form)
+{
+    Form& f = app.forms.form(form);
+    if (!f.Visible)
+        return;
+    f.Visible = false;
+    if (app.activeForm == f.Name)
+        app.activeForm.clear();
+    app.ui.hideForm(f.Name);
+}
+
+bool unloadForm(Merkkartelle& app, const QString& form, int unloadMode)
+{
+    Form& f = app.forms.form(form);
+    const QString name = f.Name;
+    if (f.Loaded) {
+        EventArgs query;
+        query.UnloadMode = unloadMode;
+        raiseEvent(app, name, QStringLiteral("QueryUnload"), query);
+        if (query.Cancel)
+            return false;
+        EventArgs unload;
+        raiseEvent(app, name, QStringLiteral("Unload"), unload);
+        if (unload.Cancel)
+            return false;
+    }
+    hideForm(app, name);
+    app.forms.reset(name);
+    return true;
+}
+
+void End(Merkkartelle& app)
+{
+    app.ended = true;
+    app.ui.programEnded();
+    throw ProgramEnded();
+}
+
+void advanceClock(Merkkartelle& app, qint64 ms)
+{
+    app.timers.advance(app.forms, app.clock, ms, [&app](const ControlRef& timer) {
+        EventArgs args;
+        raiseEvent(app, timer.path(), QStringLiteral("Timer"), args);
+    });
+}
+
+}  // namespace mk

@@ -1,0 +1,25 @@
+#include "forms/message.h"
+
+namespace mk {
+
+Message::Message()
+{
+    Caption = QString();
+    Width = 4500;
+    Height = 900;
+    KeyPreview = true;
+
+    Label1.AutoSize = true;
+    Label1.Alignment = vbCenter;
+    Label1.Font = FontSpec{QStringLiteral("Arial"), 12, true, false};
+    Label1.Left = 120;
+    Label1.Top = 240;
+    Label1.Width = 4260;
+    Label1.Height = 420;
+
+    Timer1.Interval = 2000;
+
+    nameControls(*this, "Message");
+}
+
+}  // namespace mk
