@@ -37,6 +37,34 @@ constexpr int vbShiftMask = 1;
 constexpr int vbCtrlMask = 2;
 constexpr int vbAltMask = 4;
 
+// Key codes of KeyDown/KeyUp, as the old runtime numbered them.
+constexpr int vbKeyBack = 8;
+constexpr int vbKeyTab = 9;
+constexpr int vbKeyReturn = 13;
+constexpr int vbKeyEscape = 27;
+constexpr int vbKeySpace = 32;
+constexpr int vbKeyPageUp = 33;
+constexpr int vbKeyPageDown = 34;
+constexpr int vbKeyEnd = 35;
+constexpr int vbKeyHome = 36;
+constexpr int vbKeyLeft = 37;
+constexpr int vbKeyUp = 38;
+constexpr int vbKeyRight = 39;
+constexpr int vbKeyDown = 40;
+constexpr int vbKeyDelete = 46;
+constexpr int vbKeyF1 = 112;  // F2 … F12 follow: vbKeyF1 + n - 1
+constexpr int vbKeyF2 = 113;
+constexpr int vbKeyF3 = 114;
+constexpr int vbKeyF4 = 115;
+constexpr int vbKeyF5 = 116;
+constexpr int vbKeyF6 = 117;
+constexpr int vbKeyF7 = 118;
+constexpr int vbKeyF8 = 119;
+constexpr int vbKeyF9 = 120;
+constexpr int vbKeyF10 = 121;
+constexpr int vbKeyF11 = 122;
+constexpr int vbKeyF12 = 123;
+
 using Handler = std::function<void(Merkkartelle&, EventArgs&)>;
 
 class HandlerTable {

@@ -285,6 +285,20 @@ void FormRegistry::chooseOption(const ControlRef& option)
     }
 }
 
+void applyClick(FormRegistry& forms, const ControlRef& ref)
+{
+    if (ref.is(ControlKind::CheckBox)) {
+        auto& box = ref.as<CheckBox>();
+        box.Value = box.Value == 0 ? 1 : 0;
+    } else if (ref.is(ControlKind::Button)) {
+        auto& button = ref.as<Button>();
+        if (button.Ribbon)
+            button.Value = !button.Value;
+    } else if (ref.is(ControlKind::OptionButton)) {
+        forms.chooseOption(ref);
+    }
+}
+
 void FormRegistry::reset(const QString& form)
 {
     entry(form).reset();

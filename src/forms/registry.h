@@ -127,4 +127,8 @@ private:
     std::vector<Entry> entries_;
 };
 
+// What a user's click does to a control's state before its Click event: a check box
+// toggles, a check ribbon toggles its Value, an option button is chosen in its group.
+void applyClick(FormRegistry& forms, const ControlRef& ref);
+
 }  // namespace mk

@@ -150,7 +150,7 @@ int ScriptedUserInterface::MsgBox(const QString& prompt, int buttons, const QStr
     ShownBox box;
     box.kind = QStringLiteral("msgbox");
     box.prompt = prompt;
-    box.title = title;
+    box.title = title.isEmpty() ? appTitle : title;
     box.buttons = buttons;
     int answer = msgBoxDefault(buttons);
     if (!msgAnswers_.empty()) {
@@ -174,7 +174,7 @@ QString ScriptedUserInterface::InputBox(const QString& prompt, const QString& ti
     ShownBox box;
     box.kind = QStringLiteral("input");
     box.prompt = prompt;
-    box.title = title;
+    box.title = title.isEmpty() ? appTitle : title;
     box.fileName = defaultText;
     QString result;  // no answer: the box was cancelled
     bool cancelled = true;

@@ -157,7 +157,7 @@ private:
 struct ShownBox {
     QString kind;     // "msgbox", "input", "open", "save", "color", "font", "printer"
     QString prompt;   // the prompt of a box; the title of a dialog
-    QString title;
+    QString title;    // as shown: a box given no title shows the program's
     int buttons = 0;  // message boxes
     QString filter;   // file dialogs
     QString fileName; // file dialogs: the proposed name
@@ -197,6 +197,9 @@ public:
     int beeps = 0;
     int doEventsCalls = 0;
     bool ended = false;
+
+    // The title a box shows when it is given none (the program's title).
+    QString appTitle = QStringLiteral("Merkkartelle");
 
     // Hooks: the loop of a modal show (without one a modal show returns at once), and work
     // to do inside DoEvents.

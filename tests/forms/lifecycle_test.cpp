@@ -1,6 +1,7 @@
 // Forms in the system object: events through the handler table, load/show/unload, End.
 
 #include "card/app_state.h"
+#include "support/scripted_system.h"
 
 #include <gtest/gtest.h>
 
@@ -9,10 +10,9 @@ namespace {
 
 class LifecycleTest : public ::testing::Test {
 protected:
-    LifecycleTest() : app(ui, clock) {}
-    ScriptedUserInterface ui;
-    Clock clock = Clock::fixedAt(QDateTime(QDate(2024, 5, 17), QTime(9, 30, 0)));
-    Merkkartelle app;
+    test::ScriptedSystem system;
+    ScriptedUserInterface& ui = system.ui;
+    Merkkartelle& app = system.app;
     std::vector<QString> calls;
 };
 

@@ -177,6 +177,27 @@ TEST_F(RegistryTest, CheckBoxesAndOptionGroups)
     EXPECT_TRUE(listen.Andere.Value);  // another group
 }
 
+TEST_F(RegistryTest, AClickChangesTheValueAsTheUserWould)
+{
+    applyClick(forms, forms.control("Listen.Check1"));
+    EXPECT_EQ(listen.Check1.Value, 1);
+    listen.Check1.Value = 2;
+    applyClick(forms, forms.control("Listen.Check1"));
+    EXPECT_EQ(listen.Check1.Value, 0);
+
+    applyClick(forms, forms.control("Form3.AZCHECK"));
+    EXPECT_TRUE(form3.AZCHECK.Value);
+    applyClick(forms, forms.control("Form3.AZCHECK"));
+    EXPECT_FALSE(form3.AZCHECK.Value);
+    applyClick(forms, forms.control("Hauptmaske.NeueAdresse"));
+    EXPECT_FALSE(haupt.NeueAdresse.Value);  // a plain button keeps no state
+
+    applyClick(forms, forms.control("Form3.Option3D1(5)"));
+    applyClick(forms, forms.control("Form3.Option3D1(21)"));
+    EXPECT_FALSE(form3.Option3D1[5].Value);
+    EXPECT_TRUE(form3.Option3D1[21].Value);
+}
+
 TEST_F(RegistryTest, SelTextReplacesTheSelection)
 {
     forms.write("Hauptmaske.feld(0).Text", "Hans Müller");

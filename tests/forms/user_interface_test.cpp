@@ -48,6 +48,7 @@ TEST(ScriptedUserInterface, AnswersAreTakenInOrderPerKind)
     ASSERT_EQ(ui.boxes.size(), 9u);
     EXPECT_EQ(ui.boxes[0].title, "Ende");
     EXPECT_EQ(ui.boxes[0].answer, "No");
+    EXPECT_EQ(ui.boxes[2].title, "Merkkartelle");  // a box without a title shows the program's
     EXPECT_EQ(ui.boxes[3].kind, "open");
     EXPECT_EQ(ui.boxes[3].filter, "Datenbank (*.mdb)|*.mdb|");
     EXPECT_EQ(ui.boxes[3].prompt, "Datenbank öffnen...");
