@@ -594,7 +594,8 @@ private:
         const std::optional<QString> real = resolve_ ? resolve_(written) : std::nullopt;
         if (!real)
             throw RuntimeError(err::TooFewParameters,
-                               QStringLiteral("Zu wenig Parameter. 1 erwartet: ") + written);
+                               QStringLiteral("1 Parameter wurden erwartet, aber es wurden zu wenig "
+                                              "Parameter übergeben. (%1)").arg(written));
         return quoteIdentifier(*real);
     }
 

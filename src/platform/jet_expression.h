@@ -68,7 +68,11 @@ int compareText(const QString& a, const QString& b);
 QByteArray sortKey(const QString& text);
 // The same key appended to key, for callers that reuse one buffer.
 void appendSortKey(QStringView text, QByteArray& key);
-// LIKE with *, ?, #, […], [!…], blind to case. The whole text must match.
+// The same key for UTF-8 text as SQLite hands it out (no QString on the way).
+void appendSortKeyUtf8(const char* utf8, qsizetype length, std::string& key);
+// LIKE with *, ?, #, […], [!…], blind to case. The whole text must match. A range [a-z]
+// goes by base letters in the General order (so it holds ä); single characters match
+// ignoring case only.
 bool like(const QString& text, const QString& pattern);
 
 // A number as the expression language reads it as text: no leading blank ("123", "1.5").

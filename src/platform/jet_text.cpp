@@ -15,6 +15,7 @@
 
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cmath>
@@ -395,6 +396,11 @@ void writeKey(const unsigned char* text, int length, Out& out)
 
 using KeyBuffer = QVarLengthArray<char, 256>;
 
+struct StringOut {
+    std::string& s;
+    void append(char c) { s.push_back(c); }
+};
+
 int compareKeys(const KeyBuffer& a, const KeyBuffer& b)
 {
     const qsizetype n = std::min(a.size(), b.size());
@@ -455,7 +461,8 @@ struct PatternItem {
 
 struct Pattern {
     std::vector<PatternItem> items;
-    std::vector<std::pair<char32_t, char32_t>> ranges;
+    std::vector<std::pair<char32_t, char32_t>> ranges;  // single characters are ranges of one
+    std::vector<bool> ordered;                          // a range a-z, by the General order
 };
 
 char32_t fold(char32_t c)
@@ -475,9 +482,11 @@ void addSet(Pattern& p, const std::vector<char32_t>& body, bool negated)
         // a-z is a range; a '-' at either end stands for itself.
         if (i + 2 < body.size() && body[i + 1] == U'-') {
             p.ranges.emplace_back(fold(body[i]), fold(body[i + 2]));
+            p.ordered.push_back(true);
             i += 2;
         } else {
             p.ranges.emplace_back(fold(body[i]), fold(body[i]));
+            p.ordered.push_back(false);
         }
     }
     item.last = int(p.ranges.size());
@@ -520,6 +529,23 @@ Pattern compile(const std::vector<char32_t>& pattern)
     return p;
 }
 
+// Two characters by their base letters in the General order, so that [a-z] holds ä and ź.
+int comparePrimary(char32_t a, char32_t b)
+{
+    if (a < 0x80 && b < 0x80)
+        return kAscii[a] < kAscii[b] ? -1 : kAscii[a] > kAscii[b] ? 1 : 0;
+    KeyBuffer ka, kb;
+    KeyWriter<KeyBuffer> wa(ka), wb(kb);
+    wa.codePoint(a);
+    wa.finish();
+    wb.codePoint(b);
+    wb.finish();
+    // The primary part ends at the end byte; accents after it do not count here.
+    ka.resize(std::find(ka.begin(), ka.end(), char(kEnd)) - ka.begin());
+    kb.resize(std::find(kb.begin(), kb.end(), char(kEnd)) - kb.begin());
+    return compareKeys(ka, kb);
+}
+
 bool matchesOne(const Pattern& p, const PatternItem& item, char32_t c)
 {
     switch (item.kind) {
@@ -528,8 +554,10 @@ bool matchesOne(const Pattern& p, const PatternItem& item, char32_t c)
     case PatternItem::Digit: return c >= U'0' && c <= U'9';
     case PatternItem::Set: {
         bool in = false;
-        for (int r = item.first; r < item.last && !in; ++r)
-            in = c >= p.ranges[size_t(r)].first && c <= p.ranges[size_t(r)].second;
+        for (int r = item.first; r < item.last && !in; ++r) {
+            const auto [low, high] = p.ranges[size_t(r)];
+            in = p.ordered[size_t(r)] ? comparePrimary(low, c) <= 0 && comparePrimary(c, high) <= 0 : c == low;
+        }
         return in != item.negated;
     }
     case PatternItem::Star: return false;
@@ -805,6 +833,12 @@ int compareText(const QString& a, const QString& b)
 void appendSortKey(QStringView text, QByteArray& key)
 {
     writeKey(text, key);
+}
+
+void appendSortKeyUtf8(const char* utf8, qsizetype length, std::string& key)
+{
+    StringOut out{key};
+    writeKey(reinterpret_cast<const unsigned char*>(utf8), int(length), out);
 }
 
 QByteArray sortKey(const QString& text)

@@ -217,44 +217,88 @@ TEST(JetSort, ReadsDirectionsAndPlainColumns)
     EXPECT_TRUE(parseSort("   ").empty());
 }
 
-// Whatever arrives, the parser, the translator and LIKE answer or raise; they never crash.
+// Whatever arrives, the parser, the translator and LIKE answer or raise; they never crash, and
+// whatever parses translates into SQL that SQLite accepts.
 TEST(JetRobustness, RandomTextsNeverCrash)
 {
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(":memory:", &db), SQLITE_OK);
+    registerFunctions(db);
+    sqlite3_exec(db, "CREATE TABLE t (c TEXT); INSERT INTO t VALUES ('abc'), (NULL), (12)", nullptr, nullptr, nullptr);
+    const auto run = [&](const Sql& sql, const char* head) {
+        sqlite3_stmt* st = nullptr;
+        const std::string text = head + sql.text;
+        ASSERT_EQ(sqlite3_prepare_v2(db, text.c_str(), -1, &st, nullptr), SQLITE_OK) << text;
+        bindParameters(st, sql.params);
+        while (sqlite3_step(st) == SQLITE_ROW) {
+        }
+        sqlite3_finalize(st);
+    };
+
     std::mt19937 random(20240611);
     const QStringList tokens{"[Firma]", "Nachname", "'text'", "\"q\"\"x\"", "123", "4.5", "=", "<>", "<=", ">",
                              "LIKE", "NOT", "AND", "OR", "BETWEEN", "IS", "NULL", "(", ")", ",", "&", "-",
                              "LEFT(", "MID(", "LEN(", "True", "'*[!a-", "ASC", "DESC", "[", "]", "'", "ü", "#"};
     const auto resolve = [](const QString& name) -> std::optional<QString> {
         if (name.size() < 12)
-            return name;
+            return QStringLiteral("c");
         return std::nullopt;
     };
-    int parsed = 0;
-    for (int round = 0; round < 4000; ++round) {
+    // Well-formed expressions, so that the translator and SQLite see many shapes.
+    std::function<QString(int)> grammar = [&](int depth) -> QString {
+        const int pick = int(random() % (depth > 3 ? 4 : 14));
+        const QString a = depth > 3 ? "[Firma]" : "(" + grammar(depth + 1) + ")";
+        const QString b = depth > 3 ? "'x'" : "(" + grammar(depth + 1) + ")";
+        switch (pick) {
+        case 0: return "[Firma]";
+        case 1: return "'it''s " + QString::number(random() % 100) + "'";
+        case 2: return QString::number(random() % 1000);
+        case 3: return "1.5";
+        case 4: return a + " = " + b;
+        case 5: return a + (random() % 2 ? " NOT LIKE " : " LIKE ") + b;
+        case 6: return a + " BETWEEN " + b + " AND " + a;
+        case 7: return a + (random() % 2 ? " IS NULL" : " IS NOT NULL");
+        case 8: return a + (random() % 2 ? " AND " : " OR ") + b;
+        case 9: return "NOT " + a;
+        case 10: return a + " & " + b;
+        case 11: return "((" + a + "))";
+        case 12: return "-" + a;
+        default: return QStringList{"LEFT", "RIGHT", "MID"}[int(random() % 3)] + "(" + a + ", " + b + ")";
+        }
+    };
+
+    int translated = 0;
+    for (int round = 0; round < 6000; ++round) {
         QString text;
         const int length = int(random() % 12);
-        if (round % 2 == 0) {
+        if (round % 3 == 2) {
+            text = grammar(0);
+        } else if (round % 3 == 0) {
             for (int i = 0; i < length; ++i)
                 text += tokens[int(random() % tokens.size())] + (random() % 3 ? " " : "");
         } else {
             QByteArray bytes;
             for (int i = 0; i < length * 3; ++i)
                 bytes += char(random() % 256);
-            text = round % 4 == 1 ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
+            text = round % 2 ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
         }
         try {
-            const NodePtr node = parseExpression(text);
-            ++parsed;
-            toSql(*node, resolve);
-        } catch (const RuntimeError&) {
+            const Sql sql = toSql(*parseExpression(text), resolve);
+            ++translated;
+            run(sql, "SELECT 1 FROM t WHERE ");
+        } catch (const RuntimeError& e) {
+            ASSERT_NE(round % 3, 2) << text.toStdString() << ": " << e.what();
         }
         try {
-            toSql(parseSort(text), resolve);
+            const auto sort = parseSort(text);
+            if (!sort.empty())
+                run(toSql(sort, resolve), "SELECT 1 FROM t ORDER BY ");
         } catch (const RuntimeError&) {
         }
         like(text, text.mid(int(random() % (text.size() + 1))));
         compareText(text, text.left(text.size() / 2));
         sortKey(text);
     }
-    EXPECT_GT(parsed, 0);
+    EXPECT_GT(translated, 2000);
+    sqlite3_close(db);
 }

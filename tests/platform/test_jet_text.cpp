@@ -78,6 +78,12 @@ TEST(GeneralOrder, SortKeysAgreeWithCompareTextOnEveryPair)
     QByteArray reused = "prefix";
     appendSortKey(u"Äpfel", reused);
     EXPECT_EQ(reused, "prefix" + sortKey("Äpfel"));
+    for (const QString& a : kProbes) {
+        const QByteArray utf8 = a.toUtf8();
+        std::string key = "x";
+        appendSortKeyUtf8(utf8.constData(), utf8.size(), key);
+        EXPECT_EQ(QByteArray::fromStdString(key), "x" + sortKey(a)) << a.toStdString();
+    }
 }
 
 TEST(GeneralOrder, OrderIsTransitiveOverRandomTexts)
@@ -124,6 +130,12 @@ TEST(Like, KnowsTheWildcardsOfTheOldEngine)
     EXPECT_FALSE(like("abc", "ab"));
     EXPECT_TRUE(like("x\U0001F600y", "x?y"));
     EXPECT_TRUE(like("ÉCOLE", "[é]cole"));
+    EXPECT_FALSE(like("Ecole", "[é]cole"));
+    // Ranges go by the base letter, as the order places it.
+    EXPECT_TRUE(like("Ärger", "[a-c]*"));
+    EXPECT_TRUE(like("Źródło", "[x-z]*"));
+    EXPECT_FALSE(like("5", "[a-z]"));
+    EXPECT_FALSE(like("Ärger", "[!a-c]*"));
 }
 
 TEST(Like, StaysFastOnHostilePatterns)
