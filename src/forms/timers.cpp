@@ -52,13 +52,17 @@ void TimerSchedule::advance(FormRegistry& forms, Clock& clock, qint64 ms, const 
                 first = &state;
         if (!first || first->due > target)
             break;
-        clock.advance(first->due - clock.msecs());
+        // A wait inside a handler (a modal form's loop) may have moved the clock further
+        // on already: it never goes back.
+        if (first->due > clock.msecs())
+            clock.advance(first->due - clock.msecs());
         State& ticking = states_[first->timer.path()];
         ticking.due += ticking.interval;
         const ControlRef timer = ticking.timer;
         fire(timer);
     }
-    clock.advance(target - clock.msecs());
+    if (target > clock.msecs())
+        clock.advance(target - clock.msecs());
 }
 
 }  // namespace mk

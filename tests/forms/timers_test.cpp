@@ -95,3 +95,30 @@ TEST_F(TimersTest, ANewIntervalStartsTheCountAfresh)
 
 }  // namespace
 }  // namespace mk
+
+namespace mk {
+namespace {
+
+TEST_F(TimersTest, AWaitInsideAModalLoopNeverTurnsTheClockBack)
+{
+    app.Hauptmaske.Timer2.Enabled = false;
+    ui.modalLoop = [this](const QString&, const std::function<bool()>& stillShown) {
+        while (stillShown())
+            advanceClock(app, 1500);
+    };
+    app.handlers.on("Hauptmaske", "Timer1", "Timer", [this](Merkkartelle& a, EventArgs&) {
+        ticks.push_back({"Hauptmaske.Timer1", a.clock.Time()});
+        a.Hauptmaske.Timer1.Enabled = false;
+        showForm(a, "Message", true);  // closes by its own timer after 2000 ms
+    });
+    app.handlers.on("Message", "Timer1", "Timer", [this](Merkkartelle& a, EventArgs&) {
+        ticks.push_back({"Message.Timer1", a.clock.Time()});
+        unloadForm(a, "Message");
+    });
+    advanceClock(app, 1000);
+    EXPECT_EQ(ticks, (std::vector<Tick>{{"Hauptmaske.Timer1", QTime(0, 0, 0)}, {"Message.Timer1", QTime(0, 0, 2)}}));
+    EXPECT_EQ(clock.Now().time(), QTime(0, 0, 3));  // the inner waits went on to 3000 ms
+}
+
+}  // namespace
+}  // namespace mk
