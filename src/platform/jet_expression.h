@@ -23,7 +23,9 @@ struct Node;
 using NodePtr = std::shared_ptr<const Node>;
 
 // Parses a filter or criteria text. Raises RuntimeError(err::SyntaxInExpression, …) on a
-// text it refuses; nothing is half applied.
+// text it refuses; nothing is half applied. A blank text is refused too: "no filter" is the
+// caller's test. Text literals, numbers, True/False and Null are values of the tree and
+// become bound parameters; "a & b" is Null only when every part is Null.
 NodePtr parseExpression(const QString& text);
 
 struct SortTerm {
