@@ -9,6 +9,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Message);
     forms.add(AboutBox);
     forms.add(Form3);
+    forms.add(config);
 
     registerAllHandlers(handlers);
 }

@@ -8,6 +8,7 @@
 // loadForm, showForm, hideForm, unloadForm, raiseEvent, End and advanceClock.
 
 #include "forms/about_box.h"
+#include "forms/config.h"
 #include "forms/events.h"
 #include "forms/form3.h"
 #include "forms/hauptmaske.h"
@@ -82,6 +83,7 @@ struct Merkkartelle {
     mk::Message Message;
     mk::AboutBox AboutBox;
     mk::Form3 Form3;
+    mk::config config;
 
     FormRegistry forms;
     HandlerTable handlers;
