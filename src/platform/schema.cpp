@@ -1,0 +1,173 @@
+#include "platform/schema.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <sqlite3.h>
+
+namespace mk {
+
+namespace {
+
+FieldDef text(const char* name, int size) { return {QString::fromUtf8(name), FieldType::Text, size}; }
+FieldDef memo(const char* name) { return {QString::fromUtf8(name), FieldType::Memo, 0}; }
+FieldDef counter(const char* name) { return {QString::fromUtf8(name), FieldType::Counter, 0}; }
+
+void addNumbered(std::vector<FieldDef>& fields, const char* stem, int from, int to, int size)
+{
+    for (int i = from; i <= to; ++i)
+        fields.push_back({QString::fromUtf8(stem) + QString::number(i), FieldType::Text, size});
+}
+
+// The card's columns in the order a card is written from the mask.
+std::vector<FieldDef> cardFields()
+{
+    std::vector<FieldDef> f;
+    for (const char* name : {"Schluessel", "Titel"})
+        f.push_back(text(name, 50));
+    f.push_back(text("Firma", 100));
+    for (const char* name : {"Departament", "Nachname", "Vorname", "Strasse", "Staat", "Stadteil"})
+        f.push_back(text(name, 50));
+    f.push_back(text("PLZ", 10));
+    f.push_back(text("Stadt", 50));
+    f.push_back(text("Landescod", 10));
+    f.push_back(text("Land", 50));
+    f.push_back(text("Geburtstag", 10));
+    f.push_back(text("Telefon", 50));
+    f.push_back(text("Telefax", 50));
+    f.push_back(text("Telex", 255));
+    f.push_back(text("Celphone", 50));
+    f.push_back(memo("Bemerkung"));
+    for (const char* name : {"Texto", "Firmenregisternummer", "Staatsregister", "Passportnummer", "Postfach"})
+        f.push_back(text(name, 50));
+    addNumbered(f, "A", 1, 10, 60);
+    addNumbered(f, "B", 1, 10, 10);
+    addNumbered(f, "C", 1, 4, 100);
+    addNumbered(f, "PROG", 1, 20, 255);
+    f.push_back(text("Datum", 20));
+    f.push_back(text("Zeit", 20));
+    f.push_back(text("Partei", 50));
+    f.push_back(text("vorwahl", 10));
+    f.push_back(text("recdate", 20));
+    f.push_back(text("rectime", 20));
+    addNumbered(f, "TEL", 1, 4, 50);
+    f.push_back(text("Bank", 50));
+    f.push_back(text("BankLeitZahl", 20));
+    f.push_back(text("Kontonummer", 40));
+    f.push_back(text("Typ", 7));
+    for (const char* name : {"Som", "Video", "imagem"})
+        f.push_back(text(name, 255));
+    for (const char* name : {"Campo1", "Campo2", "CampoM1"})
+        f.push_back(text(name, 50));
+    f.push_back(memo("CampoM2"));
+    f.push_back(counter("Laufendenummer"));
+    f.push_back(text("Chamada", 50));
+    return f;
+}
+
+std::vector<FieldDef> telephoneFields()
+{
+    return {counter("Numeroatual"), text("PhoneNumber", 50), text("Name", 100),
+            text("Datainicial", 20), text("Horainicial", 20), text("Datafinal", 20),
+            text("Horafinal", 20)};
+}
+
+std::vector<FieldDef> globalViewFields()
+{
+    return {counter("Numeroatual"), text("FullPathName", 255), text("Datainicial", 20),
+            text("Horainicial", 20), text("Datafinal", 20), text("Horafinal", 20)};
+}
+
+QString quoted(const QString& name) { return QLatin1Char('"') + name + QLatin1Char('"'); }
+
+}  // namespace
+
+const std::vector<FieldDef>& schemaOf(DatabaseKind kind)
+{
+    static const std::vector<FieldDef> cards = cardFields();
+    static const std::vector<FieldDef> telephone = telephoneFields();
+    static const std::vector<FieldDef> globalView = globalViewFields();
+    switch (kind) {
+    case DatabaseKind::Cards: return cards;
+    case DatabaseKind::Telephone: return telephone;
+    case DatabaseKind::GlobalView: return globalView;
+    }
+    return cards;
+}
+
+QString tableNameOf(DatabaseKind kind)
+{
+    switch (kind) {
+    case DatabaseKind::Cards: return QStringLiteral("Adressenstamm");
+    case DatabaseKind::Telephone: return QStringLiteral("Telephone");
+    case DatabaseKind::GlobalView: return QStringLiteral("GlobalView");
+    }
+    return {};
+}
+
+QString declaredType(const FieldDef& field)
+{
+    switch (field.Type) {
+    case FieldType::Counter: return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
+    case FieldType::Long: return QStringLiteral("INTEGER");
+    case FieldType::Double: return QStringLiteral("DOUBLE");
+    case FieldType::Boolean: return QStringLiteral("BOOLEAN");
+    case FieldType::Text: return QStringLiteral("TEXT(%1)").arg(field.Size);
+    case FieldType::Memo: return QStringLiteral("LONGTEXT");
+    }
+    return {};
+}
+
+std::string createTableSql(DatabaseKind kind)
+{
+    QStringList columns;
+    for (const FieldDef& field : schemaOf(kind))
+        columns << quoted(field.Name) + QLatin1Char(' ') + declaredType(field);
+    return (QStringLiteral("CREATE TABLE ") + quoted(tableNameOf(kind)) + QStringLiteral(" (")
+            + columns.join(QStringLiteral(", ")) + QStringLiteral(")"))
+        .toStdString();
+}
+
+FieldDef fieldFromDeclaration(const QString& name, const QString& declared, bool primaryKey)
+{
+    static const QRegularExpression sized(QStringLiteral("^\\s*(?:VAR)?(?:TEXT|CHAR)\\s*\\(\\s*(\\d+)\\s*\\)"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    const QString type = declared.trimmed().toUpper();
+    FieldDef field{name, FieldType::Memo, 0};
+    if (type.startsWith(QLatin1String("INT")) && primaryKey) {
+        field.Type = FieldType::Counter;
+    } else if (const auto m = sized.match(declared); m.hasMatch()) {
+        field.Type = FieldType::Text;
+        field.Size = m.captured(1).toInt();
+    } else if (type.contains(QLatin1String("TEXT")) || type.contains(QLatin1String("CHAR"))
+               || type.contains(QLatin1String("CLOB")) || type.contains(QLatin1String("MEMO"))) {
+        field.Type = FieldType::Memo;
+    } else if (type.startsWith(QLatin1String("BOOL")) || type == QLatin1String("BIT")) {
+        field.Type = FieldType::Boolean;
+    } else if (type.contains(QLatin1String("INT")) || type == QLatin1String("LONG")) {
+        field.Type = FieldType::Long;
+    } else if (type.contains(QLatin1String("REAL")) || type.contains(QLatin1String("DOUB"))
+               || type.contains(QLatin1String("FLOA"))) {
+        field.Type = FieldType::Double;
+    }
+    return field;
+}
+
+void createEmptyDatabase(DatabaseKind kind, const QString& path)
+{
+    if (QFileInfo::exists(path))
+        throw RuntimeError(err::FileAlreadyExists,
+                           QStringLiteral("Die Datei %1 existiert bereits.").arg(path));
+    sqlite3* db = nullptr;
+    int rc = sqlite3_open_v2(path.toUtf8().constData(), &db,
+                             SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (rc == SQLITE_OK)
+        rc = sqlite3_exec(db, createTableSql(kind).c_str(), nullptr, nullptr, nullptr);
+    const QString message = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString();
+    sqlite3_close_v2(db);
+    if (rc != SQLITE_OK)
+        throw RuntimeError(err::PathNotFound,
+                           QStringLiteral("Die Datenbank %1 konnte nicht angelegt werden (%2).")
+                               .arg(path, message));
+}
+
+}  // namespace mk
