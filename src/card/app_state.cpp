@@ -1,5 +1,8 @@
 #include "card/app_state.h"
 
+#include "history/global_view.h"
+#include "settings/settings_file.h"
+
 namespace mk {
 
 Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(clock_)
@@ -10,6 +13,20 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(AboutBox);
     forms.add(Form3);
     forms.add(config);
+    forms.add(etiquet);
+    forms.add(Form5);
+    forms.add(Form6);
+    forms.add(mala);
+    forms.add(malasp);
+    forms.add(Schnellsuchen);
+    forms.add(Suchergebnis);
+    forms.add(Procurar);
+    forms.add(replay);
+    forms.add(search);
+    forms.add(Cidadefrm);
+    forms.add(frmExport);
+    forms.add(Aform);
+    forms.add(malaglobalview);
 
     registerAllHandlers(handlers);
 }
@@ -17,7 +34,8 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
 void registerAllHandlers(HandlerTable& table)
 {
     // Each subsystem adds its one line here: registerCardHandlers(table); …
-    (void)table;
+    registerSettingsHandlers(table);
+    registerGlobalViewHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

@@ -9,6 +9,19 @@
 
 #include "forms/about_box.h"
 #include "forms/config.h"
+#include "forms/aform.h"
+#include "forms/cidadefrm.h"
+#include "forms/etiquet.h"
+#include "forms/form5.h"
+#include "forms/form6.h"
+#include "forms/frm_export.h"
+#include "forms/mala.h"
+#include "forms/malaglobalview.h"
+#include "forms/malasp.h"
+#include "forms/replay.h"
+#include "forms/schnellsuchen.h"
+#include "forms/search.h"
+#include "forms/suchergebnis.h"
 #include "forms/events.h"
 #include "forms/form3.h"
 #include "forms/hauptmaske.h"
@@ -84,6 +97,20 @@ struct Merkkartelle {
     mk::AboutBox AboutBox;
     mk::Form3 Form3;
     mk::config config;
+    mk::etiquet etiquet;
+    mk::Form5 Form5;
+    mk::Form6 Form6;
+    mk::mala mala;
+    mk::malasp malasp;
+    mk::Schnellsuchen Schnellsuchen;
+    mk::Suchergebnis Suchergebnis;
+    mk::Procurar Procurar;
+    mk::replay replay;
+    mk::search search;
+    mk::Cidadefrm Cidadefrm;
+    mk::frmExport frmExport;
+    mk::Aform Aform;
+    mk::malaglobalview malaglobalview;
 
     FormRegistry forms;
     HandlerTable handlers;
