@@ -118,6 +118,11 @@ QVariant RowCopy::value(std::size_t column) const
     }
 }
 
+bool RowBlock::holds(long index, std::chrono::steady_clock::time_point now) const
+{
+    return index >= first && index < first + count && serial == writeSerial() && now - taken < FreshFor;
+}
+
 void runToEnd(Connection& conn, sqlite3_stmt* stmt)
 {
     int rc;

@@ -5,6 +5,8 @@
 #include "platform/store_internal.h"
 
 #include <QtEndian>
+#include <algorithm>
+#include <cstdlib>
 #include <sqlite3.h>
 
 namespace mk {
@@ -47,7 +49,6 @@ void placeAt(Recordset::Impl& d, long index)
     dropEdit(d);
     d.index = index;
     d.bof = d.eof = false;
-    d.cacheValid = false;
 }
 
 // The first live index at or after from, or -1.
@@ -68,32 +69,77 @@ long liveUpTo(const store::KeySet& keys, long from)
     return -1;
 }
 
+constexpr long LongestBlock = 64;
+
+std::string blockSql(const store::TableInfo& table, long count)
+{
+    std::string sql = "SELECT " + table.columnList + ", rowid FROM " + table.quotedName;
+    if (count == 1)
+        return sql + " WHERE rowid = ?1";
+    sql += " WHERE rowid IN (";
+    for (long i = 1; i <= count; ++i)
+        sql += (i > 1 ? ", ?" : "?") + std::to_string(i);
+    return sql + ")";
+}
+
+// Reads the rows of the key list from index first on into the block.
+void fetchBlock(Recordset::Impl& d, store::Connection& conn, long first, long count)
+{
+    const store::TableInfo& table = *d.source.table;
+    const int columns = int(table.fields.size());
+    std::vector<std::pair<std::int64_t, long>> slots;
+    sqlite3_stmt* stmt = conn.statement(blockSql(table, count));
+    for (long i = 0; i < count; ++i) {
+        const std::int64_t key = d.keys->keys[std::size_t(first + i)];
+        sqlite3_bind_int64(stmt, int(i + 1), key);
+        slots.emplace_back(key, i);
+    }
+    std::sort(slots.begin(), slots.end());
+    store::RowBlock& block = d.block;
+    block.count = 0;  // nothing holds if reading fails half way
+    block.rows.resize(std::size_t(count));
+    block.present.assign(std::size_t(count), 0);
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        const std::int64_t rowid = sqlite3_column_int64(stmt, columns);
+        const auto at = std::lower_bound(slots.begin(), slots.end(), std::make_pair(rowid, 0L));
+        if (at == slots.end() || at->first != rowid)
+            continue;
+        block.rows[std::size_t(at->second)].take(stmt, columns);
+        block.present[std::size_t(at->second)] = 1;
+    }
+    sqlite3_reset(stmt);
+    if (rc != SQLITE_DONE)
+        conn.fail(rc);
+    block.first = first;
+    block.count = count;
+    block.serial = store::writeSerial();
+    block.taken = std::chrono::steady_clock::now();
+}
+
 const store::RowCopy& currentRow(Recordset::Impl& d)
 {
     store::Connection& conn = connectionOf(d);
     if (!hasCurrent(d))
         noCurrentRecord();
-    const std::int64_t key = d.keys->keys[std::size_t(d.index)];
-    if (d.cacheValid && d.cachedKey == key && d.cachedSerial == store::writeSerial())
-        return d.row;
-    const store::TableInfo& table = *d.source.table;
-    if (!d.rowStatement)
-        d.rowStatement = conn.statement(table.selectRow);
-    sqlite3_stmt* stmt = d.rowStatement;
-    sqlite3_bind_int64(stmt, 1, key);
-    const int rc = sqlite3_step(stmt);
-    if (rc != SQLITE_ROW) {
-        sqlite3_reset(stmt);
-        if (rc == SQLITE_DONE)
-            noCurrentRecord();  // deleted through another cursor
-        conn.fail(rc);
+    const long i = d.index;
+    store::RowBlock& block = d.block;
+    if (!block.holds(i, std::chrono::steady_clock::now())) {
+        long first = i;
+        long count = 1;
+        if (d.lastRead >= 0 && i != d.lastRead && std::abs(i - d.lastRead) <= 2) {  // a walk
+            count = std::clamp(block.count * 2, 8L, LongestBlock);
+            if (i < d.lastRead)
+                first = std::max(0L, i - count + 1);
+            count = std::min(count, long(d.keys->keys.size()) - first);
+        }
+        fetchBlock(d, conn, first, count);
     }
-    d.row.take(stmt, int(table.fields.size()));
-    sqlite3_reset(stmt);
-    d.cachedKey = key;
-    d.cachedSerial = store::writeSerial();
-    d.cacheValid = true;
-    return d.row;
+    d.lastRead = i;
+    const std::size_t slot = std::size_t(i - block.first);
+    if (!block.present[slot])
+        noCurrentRecord();  // deleted through another cursor
+    return block.rows[slot];
 }
 
 [[noreturn]] void conversionError()
@@ -220,7 +266,6 @@ void find(Recordset::Impl& d, const QString& criteria, long start, Direction dir
 void Recordset::Impl::placeAtFirst()
 {
     noMatch = false;
-    cacheValid = false;
     const long first = liveFrom(*keys, 0);
     index = first;
     bof = eof = first < 0;
@@ -261,8 +306,7 @@ void Recordset::close()
 {
     dropEdit(*d);
     d->closed = true;
-    d->row = {};
-    d->cacheValid = false;
+    d->block = {};
 }
 
 long Recordset::RecordCount() const
@@ -462,7 +506,6 @@ void Recordset::Delete()
     store::runToEnd(conn, stmt);
     store::noteWrite();
     d->keys->markHole(std::size_t(d->index));
-    d->cacheValid = false;
 }
 
 EditMode Recordset::editMode() const { return d->mode; }

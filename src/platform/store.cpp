@@ -241,7 +241,7 @@ std::shared_ptr<const TableInfo> Connection::table(const QString& name)
         list += (list.empty() ? "" : ", ") + quoteName(column);
     }
     sqlite3_reset(columns);
-    info->selectRow = "SELECT " + list + " FROM " + info->quotedName + " WHERE rowid = ?1";
+    info->columnList = list;
     tables.emplace(folded, info);
     return info;
 }

@@ -7,6 +7,7 @@
 #include "platform/store.h"
 
 #include <QHash>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -37,7 +38,7 @@ struct TableInfo {
     std::vector<FieldDef> fields;
     QHash<QString, int> byFoldedName;
     std::string quotedName;
-    std::string selectRow;  // all columns of one row by rowid
+    std::string columnList;  // every column, quoted, in the table's order
 
     std::optional<int> column(const QString& name) const;
     jet::ColumnResolver resolver() const;
@@ -84,6 +85,21 @@ struct RowCopy {
 
     void take(sqlite3_stmt* stmt, int columns);
     QVariant value(std::size_t column) const;
+};
+
+// Rows near the current one, read in one go. A walk reads rows in blocks that grow while
+// it goes on; a block holds until the next write in this process, and only for a moment
+// (FreshFor) against writes of other processes, as the old engine refreshed its pages.
+struct RowBlock {
+    static constexpr auto FreshFor = std::chrono::milliseconds(100);
+    long first = 0;
+    long count = 0;
+    std::vector<RowCopy> rows;
+    std::vector<char> present;
+    std::uint64_t serial = 0;
+    std::chrono::steady_clock::time_point taken;
+
+    bool holds(long index, std::chrono::steady_clock::time_point now) const;
 };
 
 // Where a dynaset's rows come from: a table, the filters in force, and the order.
@@ -144,12 +160,9 @@ struct Recordset::Impl {
     bool eof = true;
     bool noMatch = false;
 
-    // Values of the current row, read once per move.
-    std::int64_t cachedKey = 0;
-    std::uint64_t cachedSerial = 0;
-    bool cacheValid = false;
-    store::RowCopy row;
-    sqlite3_stmt* rowStatement = nullptr;  // owned by the connection
+    // Values of the current row and its neighbours.
+    store::RowBlock block;
+    long lastRead = -1;
 
     EditMode mode = EditMode::None;
     std::vector<QVariant> buffer;

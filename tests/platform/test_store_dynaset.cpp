@@ -125,6 +125,39 @@ TEST_F(CardStore, SortByAnExpressionFallsBackToTheTranslatedOrder)
     EXPECT_EQ(all(opened(QStringLiteral("RIGHT([Nachname], 1)"))), names({"Cya", "Bxx", "Acz"}));
 }
 
+TEST_F(CardStore, LongWalksReadTheirOwnRowsInBothDirections)
+{
+    inOneTransaction([&] {
+        for (int i = 0; i < 150; ++i)
+            add({{"Nachname", QStringLiteral("N%1").arg(i % 7)}, {"Vorname", QString::number(i)}});
+    });
+    auto rs = opened(QStringLiteral("[Nachname] DESC"));
+    const QStringList forward = all(rs, "Vorname");
+    ASSERT_EQ(forward.size(), 150);
+    QStringList backward;
+    rs->MoveLast();
+    while (!rs->IsBOF()) {
+        backward.prepend(current(rs, "Vorname"));
+        rs->MovePrevious();
+    }
+    EXPECT_EQ(backward, forward);
+
+    // A row deleted through the second session in the middle of a walk is no current record.
+    auto other = Database::open(file)->createDynaset(QStringLiteral("Adressenstamm"));
+    rs->MoveFirst();
+    for (int i = 0; i < 40; ++i) {
+        current(rs);
+        rs->MoveNext();
+    }
+    other->FindFirst(QStringLiteral("[Vorname] = '%1'").arg(forward[41]));
+    other->Delete();
+    EXPECT_EQ(current(rs, "Vorname"), forward[40]);
+    rs->MoveNext();
+    EXPECT_EQ(errorOf([&] { current(rs); }), err::NoCurrentRecord);
+    rs->MoveNext();
+    EXPECT_EQ(current(rs, "Vorname"), forward[42]);
+}
+
 // ---- Sort and Filter act on the next open ---------------------------------------------------
 
 TEST_F(Dynaset, SortAndFilterActOnlyOnTheNextOpen)
