@@ -121,6 +121,26 @@ void printSummary()
     }
 }
 
+namespace {
+std::vector<Registration>& registrations()
+{
+    static auto* all = new std::vector<Registration>;
+    return *all;
+}
+}  // namespace
+
+bool forEachSize(Registration registration)
+{
+    registrations().push_back(registration);
+    return true;
+}
+
+void registerAll(const std::vector<int>& sizes)
+{
+    for (Registration r : registrations())
+        r(sizes);
+}
+
 int iterationsFor(int size)
 {
     if (size <= 20000)

@@ -37,6 +37,12 @@ void report(benchmark::State& state, const char* what, const Timings& t);
 void printSummary();
 
 int iterationsFor(int size);
-void registerStoreBenchmarks(const std::vector<int>& sizes);
+
+// Benchmark files hand main a registration to run for the card counts chosen on the command
+// line (--sizes=10000,100000) or in MK_BENCH_SIZES; default 10,000, 100,000 and 1,000,000.
+// Use it from a static initialiser: const bool registered = forEachSize(myRegistration);
+using Registration = void (*)(const std::vector<int>& sizes);
+bool forEachSize(Registration registration);
+void registerAll(const std::vector<int>& sizes);  // called by main
 
 }  // namespace mk::bench

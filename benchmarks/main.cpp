@@ -44,7 +44,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&count, args.data());
     if (benchmark::ReportUnrecognizedArguments(count, args.data()))
         return 2;
-    mk::bench::registerStoreBenchmarks(sizes);
+    mk::bench::registerAll(sizes);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     mk::bench::printSummary();

@@ -155,8 +155,6 @@ void fullSearch(benchmark::State& state)
     report(state, "29 prefix criteria of the full search", t);
 }
 
-}  // namespace
-
 void registerStoreBenchmarks(const std::vector<int>& sizes)
 {
     const std::vector<std::pair<const char*, void (*)(benchmark::State&)>> all = {
@@ -176,5 +174,9 @@ void registerStoreBenchmarks(const std::vector<int>& sizes)
         }
     }
 }
+
+const bool registered = forEachSize(registerStoreBenchmarks);
+
+}  // namespace
 
 }  // namespace mk::bench

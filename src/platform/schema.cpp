@@ -1,5 +1,6 @@
 #include "platform/schema.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <sqlite3.h>
@@ -164,10 +165,12 @@ void createEmptyDatabase(DatabaseKind kind, const QString& path)
         rc = sqlite3_exec(db, createTableSql(kind).c_str(), nullptr, nullptr, nullptr);
     const QString message = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString();
     sqlite3_close_v2(db);
-    if (rc != SQLITE_OK)
+    if (rc != SQLITE_OK) {
+        QFile::remove(path);  // no half-made database is left behind
         throw RuntimeError(err::PathNotFound,
                            QStringLiteral("Die Datenbank %1 konnte nicht angelegt werden (%2).")
                                .arg(path, message));
+    }
 }
 
 }  // namespace mk
