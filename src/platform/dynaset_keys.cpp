@@ -380,10 +380,24 @@ void fillWholeTable(Connection& conn, const TableInfo& table, MatchSet& set)
 
 }  // namespace
 
+// True while nothing has written since the set was taken.
+bool stillValid(Connection& conn, MatchSet& set)
+{
+    if (set.serial != writeSerial())
+        return false;
+    const auto now = std::chrono::steady_clock::now();
+    if (now - set.checked < FreshFor)
+        return true;
+    if (conn.dataVersion() != set.dataVersion)
+        return false;
+    set.checked = now;
+    return true;
+}
+
 MatchSet& matchSetFor(Connection& conn, const Source& source, KeySet& keys, const QString& criteria)
 {
     for (auto it = keys.matches.begin(); it != keys.matches.end(); ++it) {
-        if (it->criteria == criteria && it->serial == writeSerial()) {
+        if (it->criteria == criteria && stillValid(conn, *it)) {
             if (it != keys.matches.begin()) {
                 MatchSet moved = std::move(*it);
                 keys.matches.erase(it);
@@ -395,6 +409,8 @@ MatchSet& matchSetFor(Connection& conn, const Source& source, KeySet& keys, cons
     MatchSet set;
     set.criteria = criteria;
     set.serial = writeSerial();
+    set.dataVersion = conn.dataVersion();
+    set.checked = std::chrono::steady_clock::now();
     set.sql = jet::toSql(*jet::parseExpression(criteria), source.table->resolver());
     set.perRow = keys.keys.size() < PerRowLimit
         && std::int64_t(keys.keys.size()) * 8 < highestRowid(conn, *source.table);

@@ -185,6 +185,17 @@ void Connection::requireWritable() const
               QStringLiteral("Aktualisieren nicht möglich; Datenbank oder Objekt ist schreibgeschützt."));
 }
 
+std::int64_t Connection::dataVersion()
+{
+    sqlite3_stmt* stmt = statement("PRAGMA data_version");
+    const int rc = sqlite3_step(stmt);
+    const std::int64_t version = rc == SQLITE_ROW ? sqlite3_column_int64(stmt, 0) : 0;
+    sqlite3_reset(stmt);
+    if (rc != SQLITE_ROW)
+        fail(rc);
+    return version;
+}
+
 std::optional<int> TableInfo::column(const QString& name) const
 {
     auto it = byFoldedName.constFind(name.toCaseFolded());

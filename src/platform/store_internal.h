@@ -32,6 +32,9 @@ constexpr int ConversionError = 3421;
 // matches are valid only for the count they were taken at.
 std::uint64_t writeSerial();
 void noteWrite();
+// How long a cache is trusted against writes of other processes before it is checked, as
+// the old engine refreshed its pages after a while.
+constexpr auto FreshFor = std::chrono::milliseconds(100);
 
 struct TableInfo {
     QString name;  // as the file spells it
@@ -61,6 +64,8 @@ struct Connection {
     std::shared_ptr<const TableInfo> table(const QString& name);
     [[noreturn]] void fail(int rc) const;
     void requireWritable() const;
+    // Changes when another connection (of any process) has written to the file.
+    std::int64_t dataVersion();
 };
 
 std::string quoteName(const QString& name);
@@ -88,10 +93,9 @@ struct RowCopy {
 };
 
 // Rows near the current one, read in one go. A walk reads rows in blocks that grow while
-// it goes on; a block holds until the next write in this process, and only for a moment
-// (FreshFor) against writes of other processes, as the old engine refreshed its pages.
+// it goes on; a block holds until the next write in this process, and for FreshFor only
+// against writes of other processes.
 struct RowBlock {
-    static constexpr auto FreshFor = std::chrono::milliseconds(100);
     long first = 0;
     long count = 0;
     std::vector<RowCopy> rows;
@@ -118,6 +122,8 @@ struct MatchSet {
     std::vector<std::uint64_t> bits;
     std::vector<std::int64_t> sorted;
     std::vector<std::int8_t> answers;  // perRow: -1 not asked, 0 no, 1 yes; by key index
+    std::int64_t dataVersion = 0;      // of the file, when the set was taken
+    std::chrono::steady_clock::time_point checked;
 };
 
 // The ordered row keys of a dynaset, shared by the dynaset and its clones.
