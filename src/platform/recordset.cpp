@@ -87,12 +87,17 @@ void fetchBlock(Recordset::Impl& d, store::Connection& conn, long first, long co
 {
     const store::TableInfo& table = *d.source.table;
     const int columns = int(table.fields.size());
+    // Few statement shapes: the list is filled up to 8, 16, 32 or 64 with its last key.
+    long places = 1;
+    while (places < count)
+        places = std::max(places * 2, 8L);
     std::vector<std::pair<std::int64_t, long>> slots;
-    sqlite3_stmt* stmt = conn.statement(blockSql(table, count));
-    for (long i = 0; i < count; ++i) {
-        const std::int64_t key = d.keys->keys[std::size_t(first + i)];
+    sqlite3_stmt* stmt = conn.statement(blockSql(table, places));
+    for (long i = 0; i < places; ++i) {
+        const std::int64_t key = d.keys->keys[std::size_t(first + std::min(i, count - 1))];
         sqlite3_bind_int64(stmt, int(i + 1), key);
-        slots.emplace_back(key, i);
+        if (i < count)
+            slots.emplace_back(key, i);
     }
     std::sort(slots.begin(), slots.end());
     store::RowBlock& block = d.block;
