@@ -18,6 +18,10 @@ void listenformSchliessen(Merkkartelle& app) { unloadForm(app, app.TypenlisteBen
 
 void statuszeile(Merkkartelle& app, const QString& text) { app.Hauptmaske.Panel3D3.Caption = text; }
 
+// The filter buttons rest while the cover shows, which is while a card is entered or edited:
+// a new cursor would drop the card in the making.
+bool filterGesperrt(const Merkkartelle& app) { return bildschutzSichtbar(app) || bearbeitungOffen(app); }
+
 }  // namespace
 
 // ---- masks and conditions ------------------------------------------------------------------
@@ -89,7 +93,7 @@ void TypfilterEinsetzen(Merkkartelle& app)
 
 void Selector_Click(Merkkartelle& app, int index)
 {
-    if (bildschutzSichtbar(app))
+    if (filterGesperrt(app))
         return;
     app.Typmaske = Typmaske(index + 1);
     app.Typfilter = Typbedingung(app.Typmaske);
@@ -101,7 +105,7 @@ void Selector_Click(Merkkartelle& app, int index)
 
 void InfoTipo_Click(Merkkartelle& app)
 {
-    if (bildschutzSichtbar(app))
+    if (filterGesperrt(app))
         return;
     app.Typfilter.clear();
     app.Typmaske.clear();

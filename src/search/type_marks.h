@@ -44,7 +44,7 @@ void TypenfilterAnzeigen(Merkkartelle& app);
 void TypfilterEinsetzen(Merkkartelle& app);
 
 // --- the main mask ---------------------------------------------------------------------------
-// Filter on type index+1; nothing at all while Bildschutz shows.
+// Filter on type index+1; nothing at all while Bildschutz shows or a card is being edited.
 void Selector_Click(Merkkartelle& app, int index);
 // Releases the type filter; the field selection stays as it is.
 void InfoTipo_Click(Merkkartelle& app);

@@ -105,6 +105,21 @@ TEST_F(TypeFilter, TheFilterSortsAscendingEvenAfterADescendingOrder)
     EXPECT_EQ(column().first(), QStringLiteral("Adler"));
 }
 
+TEST_F(TypeFilter, NothingHappensWhileACardIsEdited)
+{
+    app.Kartensatz->Edit();
+    app.Hauptmaske.AdresseÄndern.Caption = QStringLiteral("OK");
+    Selector_Click(app, 1);
+    InfoTipo_Click(app);
+    EXPECT_EQ(app.Kartensatz->editMode(), EditMode::Edit);
+    EXPECT_TRUE(app.Typmaske.isEmpty());
+
+    app.Hauptmaske.AdresseÄndern.Caption = QStringLiteral("&Bearbeiten");
+    app.Hauptmaske.NeueAdresse.Caption = QStringLiteral("Speichern");
+    Selector_Click(app, 1);
+    EXPECT_TRUE(app.Typmaske.isEmpty());
+}
+
 TEST_F(TypeFilter, NothingHappensWhileTheScreenGuardShows)
 {
     app.Hauptmaske.Bildschutz.Visible = true;
