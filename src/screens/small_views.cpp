@@ -1,6 +1,7 @@
 // The notice Message, the splash AboutBox and the order form Form3, and the choice of a view.
 
 #include "screens/conversions.h"
+#include "screens/settings_views.h"
 #include "screens/view_builder.h"
 #include "screens/views.h"
 
@@ -123,6 +124,10 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildAboutBoxView(forms);
     if (name == QLatin1String("Form3"))
         return buildForm3View(forms);
+    if (name == QLatin1String("config"))
+        return buildConfigView(forms);
+    if (name == QLatin1String("malaglobalview"))
+        return buildMalaglobalviewView(forms);
     return buildGenericView(forms, name);
 }
 
