@@ -10,6 +10,13 @@ Cidadefrm::Cidadefrm()
     Label1.Caption = QStringLiteral("Feldtext hinzufügen:");
     Label2.Visible = false;
     Label3.Visible = false;
+    Command1.Caption = QStringLiteral("Hinzufügen");
+    Command2.Caption = QStringLiteral("Abbrechen");
+    Command3.Caption = QStringLiteral("Löschen");
+    Command4.Caption = QStringLiteral("Laden");
+    Command5.Caption = QStringLiteral("Auswählen");
+    Command3.Enabled = false;  // until a text is chosen
+    Command5.Enabled = false;
     nameControls(*this, "Cidadefrm");
 }
 

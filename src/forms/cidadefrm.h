@@ -12,6 +12,11 @@ struct Cidadefrm : Form {
     Label Label1;
     Label Label2;    // name of the list file
     Label Label3;    // column of the field
+    Button Command1; // "Hinzufügen", then "OK"
+    Button Command2; // "Abbrechen"
+    Button Command3; // "Löschen"
+    Button Command4; // "Laden"
+    Button Command5; // "Auswählen"
 
     Cidadefrm();
     template <class V>
@@ -23,6 +28,11 @@ struct Cidadefrm : Form {
         v("Label1", Label1);
         v("Label2", Label2);
         v("Label3", Label3);
+        v("Command1", Command1);
+        v("Command2", Command2);
+        v("Command3", Command3);
+        v("Command4", Command4);
+        v("Command5", Command5);
     }
 };
 

@@ -30,17 +30,6 @@ void insArbeitsverzeichnis(Merkkartelle& app)
     });
 }
 
-// The buttons of the form, by name until the form's struct lists them.
-Button& knopf(Merkkartelle& app, const char* name)
-{
-    try {
-        return app.forms.control(QStringLiteral("Cidadefrm"), QString::fromLatin1(name)).as<Button>();
-    } catch (const FormsError&) {
-        static Button fehlt;
-        return fehlt;
-    }
-}
-
 // List1 and its shadow List3 hold the same texts, so a selection in one names the same
 // text in the other.
 void eintragHinzufuegen(Cidadefrm& form, const QString& text)
@@ -49,10 +38,10 @@ void eintragHinzufuegen(Cidadefrm& form, const QString& text)
     form.List3.AddItem(text);
 }
 
-void auswahlknoepfe(Merkkartelle& app, bool aktiv)
+void auswahlknoepfe(Cidadefrm& form, bool aktiv)
 {
-    knopf(app, "Command3").Enabled = aktiv;
-    knopf(app, "Command5").Enabled = aktiv;
+    form.Command3.Enabled = aktiv;
+    form.Command5.Enabled = aktiv;
 }
 
 // The slot the list was opened for; -1 when none.
@@ -92,11 +81,11 @@ void AuswahllisteOeffnen(Merkkartelle& app, int slot)
     form.Label2.Caption = Auswahllistendatei(app, slot);
     form.Label3.Caption = FeldSpalte(slot);
     // The entry box shows only after "Hinzufügen"; nothing is chosen yet.
-    knopf(app, "Command1").Caption = kHinzufuegen;
+    form.Command1.Caption = kHinzufuegen;
     form.Text1.Text.clear();
     form.Text1.Visible = false;
     form.Label1.Visible = false;
-    auswahlknoepfe(app, false);
+    auswahlknoepfe(form, false);
     AuswahllisteLesen(app);
     showForm(app, form, true);
 }
@@ -194,11 +183,11 @@ void feld_MouseDown(Merkkartelle& app, EventArgs& args)
 void Cidadefrm_Command1_Click(Merkkartelle& app)
 {
     auto& form = app.Cidadefrm;
-    if (knopf(app, "Command1").Caption != kOK) {
+    if (form.Command1.Caption != kOK) {
         form.Text1.Text.clear();
         form.Text1.Visible = true;
         form.Label1.Visible = true;
-        knopf(app, "Command1").Caption = kOK;
+        form.Command1.Caption = kOK;
         return;
     }
     if (!form.Text1.Text.isEmpty())
@@ -207,7 +196,7 @@ void Cidadefrm_Command1_Click(Merkkartelle& app)
     form.Text1.Text.clear();
     form.Text1.Visible = false;
     form.Label1.Visible = false;
-    knopf(app, "Command1").Caption = kHinzufuegen;
+    form.Command1.Caption = kHinzufuegen;
 }
 
 void Cidadefrm_Command2_Click(Merkkartelle& app) { hideForm(app, app.Cidadefrm); }
@@ -223,7 +212,7 @@ void Cidadefrm_Command3_Click(Merkkartelle& app)
         form.List3.RemoveItem(gewaehlt);
     form.List1.ListIndex = -1;
     form.List3.ListIndex = -1;
-    auswahlknoepfe(app, false);
+    auswahlknoepfe(form, false);
 }
 
 void Cidadefrm_Command4_Click(Merkkartelle& app) { AuswahllisteAusKarten(app); }
@@ -233,7 +222,7 @@ void Cidadefrm_Command5_Click(Merkkartelle& app) { AuswahlUebernehmen(app); }
 void Cidadefrm_List1_Click(Merkkartelle& app)
 {
     auto& form = app.Cidadefrm;
-    auswahlknoepfe(app, true);
+    auswahlknoepfe(form, true);
     if (form.List1.ListIndex < form.List3.ListCount())
         form.List3.ListIndex = form.List1.ListIndex;
 }
