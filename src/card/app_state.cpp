@@ -1,6 +1,8 @@
 #include "card/app_state.h"
 
 #include "history/global_view.h"
+#include "search/type_marks.h"
+#include "settings/pick_lists.h"
 #include "settings/settings_file.h"
 
 namespace mk {
@@ -27,6 +29,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(frmExport);
     forms.add(Aform);
     forms.add(malaglobalview);
+    forms.add(TypenlisteBenutzerdefiniert);
 
     registerAllHandlers(handlers);
 }
@@ -36,6 +39,8 @@ void registerAllHandlers(HandlerTable& table)
     // Each subsystem adds its one line here: registerCardHandlers(table); …
     registerSettingsHandlers(table);
     registerGlobalViewHandlers(table);
+    registerTypeHandlers(table);
+    registerPickListHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

@@ -22,6 +22,7 @@
 #include "forms/schnellsuchen.h"
 #include "forms/search.h"
 #include "forms/suchergebnis.h"
+#include "forms/typenliste_benutzerdefiniert.h"
 #include "forms/events.h"
 #include "forms/form3.h"
 #include "forms/hauptmaske.h"
@@ -111,6 +112,7 @@ struct Merkkartelle {
     mk::frmExport frmExport;
     mk::Aform Aform;
     mk::malaglobalview malaglobalview;
+    mk::TypenlisteBenutzerdefiniert TypenlisteBenutzerdefiniert;
 
     FormRegistry forms;
     HandlerTable handlers;
