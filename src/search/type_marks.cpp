@@ -151,8 +151,8 @@ void Typenliste_GotFocus(Merkkartelle& app, int index)
 void Typenliste_LostFocus(Merkkartelle& app, int index)
 {
     app.Hauptmaske.Typenliste[index].ForeColor = colour::Black;
-    // Leaving the seventh box sends the focus to feld(0); the forms keep no focus of their
-    // own, so the screen's tab order (feld(0) after Typenliste(6)) does that step.
+    // Leaving the seventh box should send the focus on to feld(0). The forms' state holds no
+    // focus that a handler could move, so that step waits for a focus service.
 }
 
 // ---- several types for the list ---------------------------------------------------------------
