@@ -1,5 +1,6 @@
 #include "card/app_state.h"
 
+#include "card/main_window.h"
 #include "history/global_view.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
@@ -37,6 +38,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
 void registerAllHandlers(HandlerTable& table)
 {
     // Each subsystem adds its one line here: registerCardHandlers(table); …
+    registerMainWindowHandlers(table);
     registerSettingsHandlers(table);
     registerGlobalViewHandlers(table);
     registerTypeHandlers(table);
