@@ -112,6 +112,7 @@ void coverParent(QWidget* overlay)
 FormWindow* buildGenericView(FormRegistry& forms, const QString& form)
 {
     auto* window = new FormWindow;
+    window->setProperty("mkGenericView", true);
     ViewBuilder b(forms, form, window);
     auto* layout = new QVBoxLayout(window);
     layout->setContentsMargins(0, 0, 0, 0);

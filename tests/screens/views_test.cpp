@@ -153,5 +153,23 @@ TEST_F(ViewsTest, TheWindowsAreGrabbedIntoPictures)
     save(binder.window("Form3"), QStringLiteral("Form3"));
 }
 
+TEST_F(ViewsTest, FormsWithoutAViewOfTheirOwnShowTheirControlsWhereTheStatePutsThem)
+{
+    for (const QString& form : app.forms.formNames()) {
+        QWidget* window = binder.window(form);
+        if (!window->property("mkGenericView").toBool())
+            continue;
+        show(form);
+        for (const ControlRef& ref : app.forms.controls(form)) {
+            QWidget* w = binder.widget(form + u'.' + widgetName(ref));
+            if (!w || !ref.control->Visible)
+                continue;
+            EXPECT_EQ(w->geometry().topLeft(), QPoint(ref.control->Left / 15, ref.control->Top / 15))
+                << form.toStdString() << "." << widgetName(ref).toStdString();
+        }
+        save(window, QStringLiteral("generic-") + form);
+    }
+}
+
 }  // namespace
 }  // namespace mk::test
