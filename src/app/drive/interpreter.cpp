@@ -216,13 +216,13 @@ ControlRef Interpreter::control(const QString& path)
     }
 }
 
-// A user cannot reach a disabled control: the action does nothing, and the log says so.
-bool Interpreter::reachable(const ControlRef& ref, const char* action)
+// The event goes to a disabled control as the script says, but the log tells, since a user
+// could not have done it on the screen.
+void Interpreter::noteIfDisabled(const ControlRef& ref, const char* action)
 {
     const bool enabled = ref.control ? ref.control->Enabled : app_.forms.form(ref.form).Enabled;
     if (!enabled)
-        tell(QStringLiteral("%1 is disabled: the %2 does nothing").arg(ref.path(), QLatin1String(action)));
-    return enabled;
+        tell(QStringLiteral("%1 is disabled: a user could not give it the %2").arg(ref.path(), QLatin1String(action)));
 }
 
 // The folder of the card database: the session's once the system has one, else the one the

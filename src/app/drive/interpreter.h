@@ -62,7 +62,7 @@ private:
 
     // --- helpers over forms and files (interpreter.cpp) -------------------------------------
     ControlRef control(const QString& path);
-    bool reachable(const ControlRef& ref, const char* action);
+    void noteIfDisabled(const ControlRef& ref, const char* action);
     QString workingDirectory();
     QString fromHome(const QString& dir) const;
     QString filePath(const QString& path);
@@ -95,7 +95,7 @@ private:
     void set(const ScriptLine& line);
     void after(const ScriptLine& line);
     void simpleEvent(const ScriptLine& line, const char* usage, const char* event, int button = 0);
-    bool typeKey(const QString& path, int keyAscii);
+    void typeKey(const QString& path, int keyAscii);
 
     // --- answers (answer_commands.cpp) ------------------------------------------------------
     void answer(const ScriptLine& line);

@@ -10,6 +10,7 @@
 #include "platform/profile.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QLocale>
@@ -85,7 +86,11 @@ bool prepareHome(const Options& options, std::unique_ptr<QTemporaryDir>& tempora
 int runScript(const QByteArray& bytes)
 {
     ScriptedUserInterface ui;
-    Clock clock;
+    // The clock stands still from the start, at this moment unless the script says another:
+    // it moves only by wait, so that timers fall due where the script says.
+    QDateTime now = QDateTime::currentDateTime();
+    now.setTime(QTime(now.time().hour(), now.time().minute(), now.time().second()));
+    Clock clock = Clock::fixedAt(now);
     try {
         Merkkartelle app(ui, clock);
         Interpreter interpreter(lexScript(bytes), app, ui);

@@ -90,8 +90,7 @@ void Interpreter::click(const ScriptLine& line)
 {
     need(line, 2, "click PATH");
     const ControlRef ref = control(line.tokens[1].text);
-    if (!reachable(ref, "click"))
-        return;
+    noteIfDisabled(ref, "click");
     applyClick(app_.forms, ref);
     EventArgs args;
     fire(ref.path(), QStringLiteral("Click"), args);
@@ -101,8 +100,7 @@ void Interpreter::simpleEvent(const ScriptLine& line, const char* usage, const c
 {
     need(line, 2, usage);
     const ControlRef ref = control(line.tokens[1].text);
-    if (!reachable(ref, event))
-        return;
+    noteIfDisabled(ref, event);
     EventArgs args;
     args.Button = button;
     fire(ref.path(), QLatin1String(event), args);
@@ -117,8 +115,7 @@ void Interpreter::rightclick(const ScriptLine& line)
 {
     need(line, 2, "rightclick PATH");
     const ControlRef ref = control(line.tokens[1].text);
-    if (!reachable(ref, "right click"))
-        return;
+    noteIfDisabled(ref, "right click");
     for (const char* event : {"MouseDown", "MouseUp"}) {
         EventArgs args;
         args.Button = vbRightButton;
@@ -148,8 +145,7 @@ void Interpreter::type(const ScriptLine& line)
     const ControlRef ref = control(line.tokens[1].text);
     if (!isTextControl(ref))
         fault(QStringLiteral("%1 is no text box, rich text box or combo box").arg(ref.path()));
-    if (!reachable(ref, "typing"))
-        return;
+    noteIfDisabled(ref, "typing");
     TextTarget t = textTarget(ref);
     if (t.locked) {
         tell(QStringLiteral("%1 is locked: the typing does nothing").arg(ref.path()));
@@ -171,23 +167,18 @@ void Interpreter::keys(const ScriptLine& line)
     const ControlRef ref = control(path);
     if (!isTextControl(ref))
         fault(QStringLiteral("%1 is no text box, rich text box or combo box").arg(ref.path()));
-    if (!reachable(ref, "typing"))
-        return;
+    noteIfDisabled(ref, "typing");
     TextTarget t = textTarget(ref);
     caretToEnd(t);
     for (QChar c : line.tokens[2].text)
-        if (!typeKey(path, c == u'\n' ? vbKeyReturn : int(c.unicode())))
-            return;
+        typeKey(path, c == u'\n' ? vbKeyReturn : int(c.unicode()));
 }
 
 // One key typed into a control: the form's KeyPress first when it previews the keys, then
 // the control's, either of which may change or swallow the key; then the text and Change.
-// False when the program has gone on elsewhere (the control was disabled meanwhile).
-bool Interpreter::typeKey(const QString& path, int keyAscii)
+void Interpreter::typeKey(const QString& path, int keyAscii)
 {
     const ControlRef ref = control(path);
-    if (!reachable(ref, "typing"))
-        return false;
     EventArgs args;
     args.KeyAscii = keyAscii;
     if (app_.forms.form(ref.form).KeyPreview)
@@ -195,14 +186,13 @@ bool Interpreter::typeKey(const QString& path, int keyAscii)
     if (args.KeyAscii != 0)
         fire(ref.path(), QStringLiteral("KeyPress"), args);
     if (args.KeyAscii == 0)
-        return true;
+        return;
     const ControlRef now = control(path);  // a handler may have loaded or unloaded the form
     TextTarget t = textTarget(now);
     if (insertTyped(t, args.KeyAscii)) {
         EventArgs change;
         fire(now.path(), QStringLiteral("Change"), change);
     }
-    return true;
 }
 
 void Interpreter::key(const ScriptLine& line)
@@ -229,8 +219,7 @@ void Interpreter::select(const ScriptLine& line)
     if (!ref.is(ControlKind::ListBox) && !ref.is(ControlKind::ComboBox))
         fault(QStringLiteral("%1 is no list or combo box").arg(ref.path()));
     const int index = number(line.tokens[2], "the list index");
-    if (!reachable(ref, "selection"))
-        return;
+    noteIfDisabled(ref, "selection");
     try {
         app_.forms.write(ref.path() + QStringLiteral(".ListIndex"), QString::number(index));
     } catch (const FormsError& e) {
