@@ -36,7 +36,6 @@ protected:
         raiseEvent(app(), QStringLiteral("Hauptmaske"), QStringLiteral("KeyDown"), args);
     }
 
-    void newCardOpen() { app().Hauptmaske.NeueAdresse.Caption = kSpeichernCaption; }
     void changeOpen() { app().Hauptmaske.AdresseÄndern.Caption = kOKCaption; }
 
     test::ScriptedSystem sys;
@@ -64,24 +63,8 @@ TEST_F(MainWindowKeys, BrowseKeysPressTheirControls)
     EXPECT_TRUE(sys.ui.boxes.empty());
 }
 
-TEST_F(MainWindowKeys, F11PressesTheBankButtonOnlyWhileItIsEnabled)
+TEST_F(MainWindowKeys, F1NamesF5AndF9AfterTheDialerWhileItIsOpen)
 {
-    app().Hauptmaske.Command1.Enabled = false;
-    key(vbKeyF11);
-    EXPECT_TRUE(pressed.isEmpty());
-}
-
-TEST_F(MainWindowKeys, F1InBrowseStateListsTheKeys)
-{
-    key(vbKeyF1);
-    ASSERT_EQ(sys.ui.boxes.size(), 1u);
-    EXPECT_EQ(sys.ui.boxes[0].title, QStringLiteral("Tastaturbelegung"));
-    EXPECT_EQ(sys.ui.boxes[0].prompt,
-              QStringLiteral("F2 = Neuer Eintrag \r\nF3 = Eintrag ändern\r\nF5 = Serienbriefliste\r\nF6 = Suchen \r\n"
-                             "F7 = Nummer wählen\r\nF8 = Etiquetten konfigurieren \r\nF9 = Geburtstagsserienbrief\r\n"
-                             "F10 = Passwort ändern \r\nF11 = Bank \r\nF12 = Typ benennen"));
-
-    // While the dialer is open F5 and F9 work the modem.
     app().DIALER.Visible = true;
     const QString prompt = TastaturbelegungBlaettern(app());
     EXPECT_TRUE(prompt.contains(QStringLiteral("\r\nF5 = Modem abschalten\r\n")));
@@ -89,71 +72,18 @@ TEST_F(MainWindowKeys, F1InBrowseStateListsTheKeys)
     EXPECT_FALSE(prompt.contains(QStringLiteral("Serienbriefliste")));
 }
 
-TEST_F(MainWindowKeys, EscapeAsksBeforeItCancelsTheOpenCard)
-{
-    newCardOpen();
-    sys.ui.answerMsgBox(vbNo);
-    key(vbKeyEscape);
-    EXPECT_TRUE(pressed.isEmpty());
-    sys.ui.answerMsgBox(vbYes);
-    key(vbKeyEscape);
-    EXPECT_EQ(pressed, QStringList{QStringLiteral("NeueAdresseAbbruch")});
-    ASSERT_EQ(sys.ui.boxes.size(), 2u);
-    EXPECT_EQ(sys.ui.boxes[1].prompt, QStringLiteral("Neuen Eintrag abbrechen ?\r\n            "));
-    EXPECT_EQ(sys.ui.boxes[1].title, QStringLiteral("Neuen Eintrag abbrechen"));
-    EXPECT_EQ(sys.ui.boxes[1].buttons, vbYesNo + vbCritical);
-
-    pressed.clear();
-    app().Hauptmaske.NeueAdresse.Caption = kNeuCaption;
-    changeOpen();
-    sys.ui.answerMsgBox(vbYes);
-    key(vbKeyEscape);
-    EXPECT_EQ(pressed, QStringList{QStringLiteral("AdresseÄndernAbbruch")});
-    EXPECT_EQ(sys.ui.boxes.back().prompt, QStringLiteral("Bearbeitung abbrechen ?\r\n            "));
-    EXPECT_EQ(sys.ui.boxes.back().title, QStringLiteral("Bearbeitung abbrechen"));
-}
-
-TEST_F(MainWindowKeys, F2SavesOnlyANewCardAndF3OnlyAChange)
-{
-    changeOpen();
-    key(vbKeyF2);
-    EXPECT_TRUE(sys.ui.boxes.empty());
-    sys.ui.answerMsgBox(vbYes);
-    key(vbKeyF3);
-    EXPECT_EQ(pressed, QStringList{QStringLiteral("AdresseÄndern")});
-    EXPECT_EQ(sys.ui.boxes.back().prompt, QStringLiteral("Eintrag aktualizieren ?\r\n            "));
-    EXPECT_EQ(sys.ui.boxes.back().title, QStringLiteral("Eintrag aktualizieren"));
-
-    pressed.clear();
-    app().Hauptmaske.AdresseÄndern.Caption = kBearbeitenCaption;
-    newCardOpen();
-    const auto boxes = sys.ui.boxes.size();
-    key(vbKeyF3);
-    EXPECT_EQ(sys.ui.boxes.size(), boxes);
-    sys.ui.answerMsgBox(vbNo);
-    key(vbKeyF2);
-    EXPECT_TRUE(pressed.isEmpty());
-    EXPECT_EQ(sys.ui.boxes.back().prompt, QStringLiteral("Neuen Eintrag speichern ?\r\n            "));
-    sys.ui.answerMsgBox(vbYes);
-    key(vbKeyF2);
-    EXPECT_EQ(pressed, QStringList{QStringLiteral("NeueAdresse")});
-}
-
 TEST_F(MainWindowKeys, EditStateKeepsOnlyItsOwnKeys)
 {
     changeOpen();
-    for (int code : {vbKeyPageUp, vbKeyPageDown, vbKeyHome, vbKeyEnd, vbKeyF5, vbKeyF6, vbKeyF11, vbKeyF12})
+    for (int code : {vbKeyPageUp, vbKeyPageDown, vbKeyHome, vbKeyEnd, vbKeyF2, vbKeyF5, vbKeyF6, vbKeyF11, vbKeyF12})
         key(code);
     EXPECT_TRUE(pressed.isEmpty());
+    EXPECT_TRUE(sys.ui.boxes.empty());
     key(vbKeyF7);
     EXPECT_EQ(pressed, QStringList{QStringLiteral("Command3D3")});
-
-    key(vbKeyF1);
-    EXPECT_EQ(sys.ui.boxes.back().prompt,
-              QStringLiteral(" Tastaturbelegung\r\n Esc = Abbrechen \r\n F3 = Änderungen übernehmen\r\n F7 = Nummer wählen"));
-    app().Hauptmaske.AdresseÄndern.Caption = kBearbeitenCaption;
-    newCardOpen();
-    EXPECT_TRUE(TastaturbelegungBearbeiten(app()).contains(QStringLiteral("\r\n F2 = Neuen Eintrag speichern\r\n")));
+    sys.ui.answerMsgBox(vbYes);
+    key(vbKeyF3);
+    EXPECT_EQ(sys.ui.boxes.back().buttons, vbYesNo + vbCritical);
 }
 
 }  // namespace
