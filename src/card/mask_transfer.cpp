@@ -1,0 +1,415 @@
+#include "card/mask_transfer.h"
+
+#include "card/app_state.h"
+#include "card/card_cursor.h"
+#include "platform/files.h"
+#include "platform/store.h"
+#include "platform/text_files.h"
+
+#include <QImageReader>
+#include <functional>
+#include <vector>
+
+namespace mk {
+
+namespace {
+
+// How a column travels between card and mask.
+enum class Art {
+    Text,            // the slot's text, both ways
+    Geburtstag,      // written only when filled; a failure skips ahead to Typ
+    Stempel,         // a label caption, written under its own guard
+    Typ,             // the seven type boxes
+    Laufendenummer,  // read only: the counter of the database
+};
+
+using SlotRef = std::function<QString&(Merkkartelle&)>;
+
+struct Spalte {
+    QString name;
+    Art art = Art::Text;
+    SlotRef slot;  // empty for Typ
+};
+
+SlotRef feldSlot(int i)
+{
+    return [i](Merkkartelle& a) -> QString& { return a.Hauptmaske.feld[i].Text; };
+}
+
+// The columns in the order a card is written from the mask.
+const std::vector<Spalte>& spalten()
+{
+    static const std::vector<Spalte> liste = [] {
+        std::vector<Spalte> s;
+        const auto text = [&](const char* name, SlotRef slot) { s.push_back({QString::fromUtf8(name), Art::Text, slot}); };
+        const char* const feldNamen[] = {
+            "Schluessel", "Titel", "Firma", "Departament", "Nachname", "Vorname", "Strasse", "Staat",
+            "Stadteil", "PLZ", "Stadt", "Landescod", "Land",
+        };
+        for (int i = 0; i < 13; ++i)
+            text(feldNamen[i], feldSlot(i));
+        s.push_back({QStringLiteral("Geburtstag"), Art::Geburtstag, feldSlot(13)});
+        text("Telefon", feldSlot(14));
+        text("Telefax", feldSlot(15));
+        text("Telex", feldSlot(16));
+        text("Celphone", feldSlot(17));
+        text("Bemerkung", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Bemerkung.Text; });
+        text("Texto", feldSlot(18));
+        text("Firmenregisternummer", feldSlot(19));
+        text("Staatsregister", feldSlot(20));
+        text("Passportnummer", feldSlot(21));
+        text("Postfach", feldSlot(22));
+        for (int i = 1; i <= 10; ++i)
+            s.push_back({QStringLiteral("A%1").arg(i), Art::Text,
+                         [i](Merkkartelle& a) -> QString& { return a.Aform.FeldA[i].Text; }});
+        for (int i = 1; i <= 10; ++i)
+            s.push_back({QStringLiteral("B%1").arg(i), Art::Text,
+                         [i](Merkkartelle& a) -> QString& { return a.Aform.feldB[i].Text; }});
+        for (int i = 0; i < 4; ++i)
+            s.push_back({QStringLiteral("C%1").arg(i + 1), Art::Text,
+                         [i](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldnum[i].Text; }});
+        for (int i = 1; i <= 20; ++i)
+            s.push_back({QStringLiteral("PROG%1").arg(i), Art::Text,
+                         [i](Merkkartelle& a) -> QString& { return a.Hauptmaske.prog[i].Text; }});
+        s.push_back({QStringLiteral("Datum"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Datum.Caption; }});
+        s.push_back({QStringLiteral("Zeit"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Zeit.Caption; }});
+        text("Partei", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Partido.Text; });
+        text("vorwahl", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Ramal.Text; });
+        s.push_back({QStringLiteral("recdate"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.recdate.Caption; }});
+        s.push_back({QStringLiteral("rectime"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.rectime.Caption; }});
+        text("TEL1", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel1.Text; });
+        text("TEL2", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel2.Text; });
+        text("TEL3", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel3.Text; });
+        text("TEL4", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel4.Text; });
+        text("Bank", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldbank[2].Text; });
+        text("BankLeitZahl", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldbank[0].Text; });
+        text("Kontonummer", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldbank[1].Text; });
+        s.push_back({QStringLiteral("Typ"), Art::Typ, {}});
+        text("Som", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text9.Text; });
+        text("Video", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text10.Text; });
+        text("imagem", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text11.Text; });
+        text("Campo1", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text12.Text; });
+        text("Campo2", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text13.Text; });
+        text("CampoM1", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text14.Text; });
+        text("CampoM2", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text15.Text; });
+        s.push_back({QStringLiteral("Laufendenummer"), Art::Laufendenummer,
+                     [](Merkkartelle& a) -> QString& { return a.Hauptmaske.LaufendeNummer.Caption; }});
+        return s;
+    }();
+    return liste;
+}
+
+std::size_t typIndex()
+{
+    static const std::size_t index = [] {
+        const auto& s = spalten();
+        for (std::size_t i = 0; i < s.size(); ++i)
+            if (s[i].art == Art::Typ)
+                return i;
+        return s.size();
+    }();
+    return index;
+}
+
+// The mail and web buttons beside C1, C2, C3: active with their picture when the slot is
+// filled, blank and inactive when it is empty.
+void verweisKnopf(Merkkartelle& app, Button& knopf, const Image& bild, const QString& inhalt)
+{
+    const bool gefuellt = !inhalt.isEmpty();
+    knopf.Picture = gefuellt ? bild.Picture : app.Hauptmaske.Leerbild.Picture;
+    knopf.Enabled = gefuellt;
+}
+
+// What a shown column drives beyond its slot.
+void nachDerSpalte(Merkkartelle& app, const Spalte& spalte)
+{
+    auto& m = app.Hauptmaske;
+    const QString& name = spalte.name;
+    if (name == QStringLiteral("Postfach")) {
+        app.Aform.Suchtext[2].Text.clear();
+    } else if (name == QStringLiteral("C1")) {
+        verweisKnopf(app, m.SSCommand2, m.Image11, m.feldnum[0].Text);
+    } else if (name == QStringLiteral("C2")) {
+        verweisKnopf(app, m.SSCommand7, m.Image11, m.feldnum[1].Text);
+    } else if (name == QStringLiteral("C3")) {
+        verweisKnopf(app, m.SSCommand5, m.Image9, m.feldnum[2].Text);
+    } else if (name == QStringLiteral("PROG1")) {
+        if (m.prog[1].Text.isEmpty()) {
+            m.Label12.Caption.clear();
+            m.Command3D2.Picture = m.Leerbild.Picture;
+            m.Command3D2.BackColor = Button{}.BackColor;
+            m.Conexted.BackColor = Panel{}.BackColor;
+        } else {
+            m.Label12.Caption = QStringLiteral("Siehe verknüpfte Dateien");
+            m.Command3D2.Picture = m.Conexted.Visible ? m.Image6.Picture : m.Image7.Picture;
+        }
+    } else if (name == QStringLiteral("Som")) {
+        if (!m.Text9.Text.isEmpty())
+            m.SSCommand4.Enabled = true;
+    } else if (name == QStringLiteral("Video")) {
+        if (!m.Text10.Text.isEmpty())
+            m.SSCommand6.Enabled = true;
+    }
+}
+
+// The colour records of the settings; an empty or unreadable record leaves the colour.
+void farbeAusEinstellung(const Merkkartelle& app, int record, long& ziel)
+{
+    bool ok = false;
+    const long wert = app.Einstellungsliste[std::size_t(record)].trimmed().toLong(&ok);
+    if (ok)
+        ziel = wert;
+}
+
+// Twips a pixel, and the margin the picture keeps inside its panel.
+constexpr int kTwipsPerPixel = 15;
+constexpr int kBildRand = 240;
+
+// The picture sizing routine: the picture keeps its proportions inside its frame less the
+// margin, and sits in the middle of it.
+void BildEinpassen(Image& bild, const Control& rahmen)
+{
+    const int breite = std::max(rahmen.Width - kBildRand, 0);
+    const int hoehe = std::max(rahmen.Height - kBildRand, 0);
+    bild.Stretch = true;
+    if (bild.PictureWidth > 0 && bild.PictureHeight > 0 && breite > 0 && hoehe > 0) {
+        const double skala = std::min(double(breite) / bild.PictureWidth, double(hoehe) / bild.PictureHeight);
+        bild.Width = int(bild.PictureWidth * skala);
+        bild.Height = int(bild.PictureHeight * skala);
+    } else {
+        bild.Width = breite;
+        bild.Height = hoehe;
+    }
+    bild.Left = rahmen.Left + (rahmen.Width - bild.Width) / 2;
+    bild.Top = rahmen.Top + (rahmen.Height - bild.Height) / 2;
+}
+
+}  // namespace
+
+// ---- card into mask ---------------------------------------------------------------------------
+
+void DatenInMaske(Merkkartelle& app)
+{
+    auto& m = app.Hauptmaske;
+    if (kartenzahl(app) == 0) {
+        MaskeLeeren(app);
+        PositionAnzeigen(app);
+        return;
+    }
+
+    // Whatever showed for the last card goes away.
+    m.Picture2.Visible = false;
+
+    for (auto& [index, feld] : m.prog) {
+        farbeAusEinstellung(app, 90, feld.BackColor);
+        farbeAusEinstellung(app, 91, feld.ForeColor);
+    }
+
+    PositionAnzeigen(app);
+
+    for (const Spalte& spalte : spalten()) {
+        underIgnoredErrors([&] {
+            const QString wert = kartensatz(app).Fields(spalte.name).text();  // Null reads as ""
+            if (spalte.art == Art::Typ) {
+                app.Typzeichen = wert;
+                TypInMaske(app, wert);
+            } else {
+                spalte.slot(app) = wert;
+            }
+            if (spalte.art == Art::Laufendenummer) {
+                m.datalabel.Caption = wert;
+                m.LaufendeNummer.Hint = QStringLiteral("Laufende Nummer ") + wert + QStringLiteral("  (Datenbankregistriernummer)");
+            }
+        });
+        nachDerSpalte(app, spalte);
+    }
+
+    m.AdresseÄndern.Enabled = true;
+    m.AdresseLöschen.Enabled = true;
+    m.Command1.Enabled = true;
+
+    if (app.mala.Visible) {
+        auto& liste = app.mala.Schnelleauswahlliste;
+        const long nummer = long(Val(m.LaufendeNummer.Caption));
+        for (int i = 0; i < liste.ListCount(); ++i)
+            if (liste.ItemData(i) == nummer)
+                liste.ListIndex = i;
+    }
+
+    KarteInDialer(app);
+    KartenbildZeigen(app);
+}
+
+void KartenbildZeigen(Merkkartelle& app)
+{
+    auto& m = app.Hauptmaske;
+    Image& bild = m.Image1;
+    const QString pfad = m.feld[16].Text;
+    if (pfad.isEmpty()) {
+        bild.Visible = false;
+        m.Label9.Caption.clear();
+        bild.Picture.clear();
+        bild.PictureWidth = bild.PictureHeight = 0;
+        m.Label16.Caption.clear();
+        m.Label32.Caption = QString::number(bild.Width);
+        m.Label33.Caption = QString::number(bild.Height);
+        return;
+    }
+    QString gefunden;
+    if (!underIgnoredErrors([&] { gefunden = Dir(pfad); }) || gefunden.isEmpty()) {
+        bild.Visible = false;  // a picture that is gone stays away without a word
+        return;
+    }
+    const QString datei = resolvePath(pfad);
+    const QSize groesse = QImageReader(datei).size();
+    bild.Picture = datei;
+    bild.PictureWidth = std::max(groesse.width(), 0);
+    bild.PictureHeight = std::max(groesse.height(), 0);
+    bild.Width = bild.PictureWidth * kTwipsPerPixel;
+    bild.Height = bild.PictureHeight * kTwipsPerPixel;
+    m.Label16.Caption = QStringLiteral("%1 x %2").arg(bild.PictureWidth).arg(bild.PictureHeight);
+    bild.Width = m.Panel3D2.Width - kBildRand;
+    bild.Height = m.Panel3D2.Height - kBildRand;
+    bild.Visible = true;
+
+    BildEinpassen(bild, m.Panel3D2);
+    if (app.config.SSCheck9.checked()) {
+        m.prever.Picture = datei;
+        m.prever.PictureWidth = bild.PictureWidth;
+        m.prever.PictureHeight = bild.PictureHeight;
+        m.prever.Stretch = true;
+    }
+}
+
+void KarteInDialer(Merkkartelle& app)
+{
+    const auto& m = app.Hauptmaske;
+    auto& d = app.DIALER;
+    d.Text6.Text = m.feld[14].Text;
+    d.Text1.Text = m.feld[5].Text + QLatin1Char(' ') + m.feld[4].Text;
+    d.Text2.Text = m.LaufendeNummer.Caption;
+    const QString nummern[] = {m.feld[14].Text, m.feld[15].Text, m.feld[17].Text, m.tel1.Text,
+                               m.tel2.Text,     m.tel3.Text,     m.tel4.Text};
+    for (int i = 0; i < 7; ++i)
+        d.Dialnumber[i].Caption = nummern[i];
+}
+
+QString TypAusMaske(const Merkkartelle& app)
+{
+    QString typ;
+    for (int i = 0; i <= 6; ++i)
+        typ += app.Hauptmaske.Typenliste[i].checked() ? QLatin1Char('1') : QLatin1Char('0');
+    return typ;
+}
+
+void TypInMaske(Merkkartelle& app, const QString& typ)
+{
+    for (int i = 0; i <= 6; ++i)
+        app.Hauptmaske.Typenliste[i].Value = typ.mid(i, 1) == QStringLiteral("1") ? 1 : 0;
+}
+
+// ---- mask into card ---------------------------------------------------------------------------
+
+void MaskeInDaten(Merkkartelle& app)
+{
+    const auto& liste = spalten();
+    try {
+        Recordset& satz = kartensatz(app);
+        for (std::size_t i = 0; i < liste.size(); ++i) {
+            const Spalte& spalte = liste[i];
+            switch (spalte.art) {
+            case Art::Text:
+                satz.Fields(spalte.name).setValue(spalte.slot(app));
+                break;
+            case Art::Geburtstag:
+                if (!spalte.slot(app).isEmpty()) {
+                    try {
+                        satz.Fields(spalte.name).setValue(spalte.slot(app));
+                    } catch (const RuntimeError&) {
+                        i = typIndex() - 1;  // the guard goes on with Typ
+                    }
+                } else {
+                    underIgnoredErrors([&] { satz.Fields(spalte.name).setValue(QString()); });
+                }
+                break;
+            case Art::Stempel:
+                underIgnoredErrors([&] { satz.Fields(spalte.name).setValue(spalte.slot(app)); });
+                break;
+            case Art::Typ:
+                satz.Fields(spalte.name).setValue(TypAusMaske(app));
+                break;
+            case Art::Laufendenummer:
+                break;  // the counter of the database: never written
+            }
+        }
+    } catch (const RuntimeError& fehler) {
+        app.ui.MsgBox(QStringLiteral("Speicherung abgebrochen - Strukturfehler ") + QLatin1Char('\r') + QStringLiteral("       ")
+                          + fehler.Description + QLatin1Char('\r'),
+                      vbCritical);
+    }
+}
+
+// ---- clearing the mask -------------------------------------------------------------------------
+
+void MaskeLeeren(Merkkartelle& app)
+{
+    auto& m = app.Hauptmaske;
+    for (auto& [i, feld] : m.feld)
+        feld.Text.clear();
+    for (auto& [i, box] : m.Typenliste)
+        box.Value = 0;
+    for (auto& [i, feld] : m.feldbank)
+        feld.Text.clear();
+    for (auto& [i, feld] : app.Aform.FeldA)
+        feld.Text.clear();
+    for (auto& [i, feld] : app.Aform.feldB)
+        feld.Text.clear();
+    for (auto& [i, feld] : app.Aform.Suchtext)
+        feld.Text.clear();
+    for (auto& [i, feld] : m.feldnum)
+        feld.Text.clear();
+    for (auto& [i, feld] : m.prog)
+        feld.Text.clear();
+    m.Datum.Caption.clear();
+    m.Zeit.Caption.clear();
+    m.Partido.Text.clear();
+    m.Ramal.Text.clear();
+    m.recdate.Caption.clear();
+    m.rectime.Caption.clear();
+    m.Bemerkung.Text.clear();
+    m.Image1.Picture.clear();
+    m.Image1.PictureWidth = m.Image1.PictureHeight = 0;
+    m.Label16.Caption.clear();
+    m.LaufendeNummer.Caption.clear();
+    for (TextBox* feld : {&m.tel1, &m.tel2, &m.tel3, &m.tel4, &m.Text9, &m.Text10, &m.Text11, &m.Text12, &m.Text13, &m.Text14})
+        feld->Text.clear();
+    m.Text15.Text.clear();
+}
+
+// ---- the print copy ----------------------------------------------------------------------------
+
+void DatenInDruckpuffer(Merkkartelle& app, Druckpuffer& puffer)
+{
+    if (kartenzahl(app) == 0)
+        return;
+    const auto lesen = [&](const char* spalte, QString& ziel) {
+        underIgnoredErrors([&] { ziel = kartensatz(app).Fields(QString::fromLatin1(spalte)).text(); });
+    };
+    lesen("Schluessel", puffer.Schluessel);
+    lesen("Titel", puffer.Titel);
+    lesen("Firma", puffer.Firma);
+    lesen("Nachname", puffer.Nachname);
+    lesen("Vorname", puffer.Vorname);
+    lesen("Strasse", puffer.Strasse);
+    lesen("Staat", puffer.Staat);
+    lesen("Stadteil", puffer.Stadteil);
+    lesen("PLZ", puffer.PLZ);
+    lesen("Stadt", puffer.Stadt);
+    lesen("Telefon", puffer.Telefon);
+    lesen("Land", puffer.Land);
+    lesen("Celphone", puffer.Celphone);
+    // The notes pass the hidden rich-text control, which gives the print plain text.
+    lesen("Bemerkung", puffer.Bemerkung);
+}
+
+}  // namespace mk
