@@ -1,5 +1,6 @@
 #include "card/app_state.h"
 
+#include "card/card_handlers.h"
 #include "card/main_window.h"
 #include "history/global_view.h"
 #include "search/type_marks.h"
@@ -30,6 +31,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(frmExport);
     forms.add(Aform);
     forms.add(malaglobalview);
+    forms.add(DIALER);
     forms.add(TypenlisteBenutzerdefiniert);
 
     registerAllHandlers(handlers);
@@ -37,7 +39,8 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
 
 void registerAllHandlers(HandlerTable& table)
 {
-    // Each subsystem adds its one line here: registerCardHandlers(table); …
+    // Each subsystem adds its one line here.
+    registerCardHandlers(table);
     registerMainWindowHandlers(table);
     registerSettingsHandlers(table);
     registerGlobalViewHandlers(table);

@@ -9,6 +9,7 @@
 
 #include "forms/about_box.h"
 #include "forms/config.h"
+#include "forms/dialer.h"
 #include "forms/aform.h"
 #include "forms/cidadefrm.h"
 #include "forms/etiquet.h"
@@ -112,6 +113,7 @@ struct Merkkartelle {
     mk::frmExport frmExport;
     mk::Aform Aform;
     mk::malaglobalview malaglobalview;
+    mk::DIALER DIALER;
     mk::TypenlisteBenutzerdefiniert TypenlisteBenutzerdefiniert;
 
     FormRegistry forms;
