@@ -323,8 +323,12 @@ void QtUserInterface::checkModalLoops()
 
 void QtUserInterface::DoEvents()
 {
-    if (binder_)
+    // A long walk calls this once per card: the screen follows often enough for the eye,
+    // not at every card. Handlers run meanwhile refresh for themselves.
+    if (binder_ && (!sinceRefresh_.isValid() || sinceRefresh_.elapsed() >= kRefreshEveryMs)) {
         binder_->refresh();
+        sinceRefresh_.start();
+    }
     QCoreApplication::processEvents(QEventLoop::AllEvents);
     throwIfEnded();
 }

@@ -6,6 +6,7 @@
 
 #include "platform/user_interface.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
 #include <functional>
@@ -74,6 +75,8 @@ private:
     std::vector<ModalLoop> loops_;
     std::vector<QPointer<QDialog>> dialogs_;
     bool ended_ = false;
+    static constexpr int kRefreshEveryMs = 40;
+    QElapsedTimer sinceRefresh_;
 };
 
 }  // namespace mk
