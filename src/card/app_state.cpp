@@ -2,6 +2,7 @@
 
 #include "card/card_handlers.h"
 #include "card/main_window.h"
+#include "card/notice.h"
 #include "history/global_view.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
@@ -41,6 +42,7 @@ void registerAllHandlers(HandlerTable& table)
 {
     // Each subsystem adds its one line here.
     registerCardHandlers(table);
+    registerNoticeHandlers(table);
     registerMainWindowHandlers(table);
     registerSettingsHandlers(table);
     registerGlobalViewHandlers(table);
