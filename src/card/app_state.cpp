@@ -1,5 +1,6 @@
 #include "card/app_state.h"
 
+#include "card/card_editing.h"
 #include "card/card_handlers.h"
 #include "card/main_window.h"
 #include "card/notice.h"
@@ -17,6 +18,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Message);
     forms.add(AboutBox);
     forms.add(Form3);
+    forms.add(Form2);
     forms.add(config);
     forms.add(etiquet);
     forms.add(Form5);
@@ -42,6 +44,7 @@ void registerAllHandlers(HandlerTable& table)
 {
     // Each subsystem adds its one line here.
     registerCardHandlers(table);
+    registerEditingHandlers(table);
     registerNoticeHandlers(table);
     registerMainWindowHandlers(table);
     registerSettingsHandlers(table);

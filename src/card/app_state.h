@@ -25,6 +25,7 @@
 #include "forms/suchergebnis.h"
 #include "forms/typenliste_benutzerdefiniert.h"
 #include "forms/events.h"
+#include "forms/form2.h"
 #include "forms/form3.h"
 #include "forms/hauptmaske.h"
 #include "forms/message.h"
@@ -98,6 +99,7 @@ struct Merkkartelle {
     mk::Message Message;
     mk::AboutBox AboutBox;
     mk::Form3 Form3;
+    mk::Form2 Form2;
     mk::config config;
     mk::etiquet etiquet;
     mk::Form5 Form5;

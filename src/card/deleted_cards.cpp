@@ -1,0 +1,179 @@
+#include "card/deleted_cards.h"
+
+#include "card/app_state.h"
+#include "card/card_cursor.h"
+#include "card/mask_transfer.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/store.h"
+#include "platform/text_files.h"
+
+namespace mk {
+
+namespace {
+
+const QString kZeilenumbruch = QStringLiteral("\r\n");
+const QString kEinzug = QStringLiteral("   ");
+constexpr int kDateiWerte = 94;
+
+MaskenPlatz platz(QString& text) { return MaskenPlatz{&text, nullptr}; }
+
+void arbeitsverzeichnisSetzen(Merkkartelle& app)
+{
+    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
+}
+
+QString dateiPfad(const Merkkartelle& app, const QString& nummer)
+{
+    return joinPath(app.Arbeitsverzeichnis, nummer + QStringLiteral(".dat"));
+}
+
+// "Eintrag: 12 löschen ? " and the card's names below, each line indented; the company
+// only when there is one.
+QString loeschFrage(const Merkkartelle& app, const QString& nummer)
+{
+    const auto& m = app.Hauptmaske;
+    QString frage = QStringLiteral("Eintrag: ") + nummer + QStringLiteral(" löschen ? ");
+    frage += kZeilenumbruch + kEinzug + m.feld[4].Text;
+    frage += kZeilenumbruch + kEinzug + m.feld[5].Text;
+    if (!m.feld[2].Text.isEmpty())
+        frage += kZeilenumbruch + kEinzug + m.feld[2].Text;
+    return frage;
+}
+
+// With SSCheck5 ticked the question warns hard and proposes no; without it, yes.
+int loeschKnoepfe(const Merkkartelle& app)
+{
+    return app.config.SSCheck5.checked() ? vbYesNo + vbCritical + vbDefaultButton2
+                                         : vbYesNo + vbExclamation + vbDefaultButton1;
+}
+
+// The copy of the card before it goes. An existing copy of the same number is replaced only
+// when the user says so; either way the delete goes on.
+void kopieSichern(Merkkartelle& app, const QString& nummer)
+{
+    arbeitsverzeichnisSetzen(app);
+    const QString pfad = dateiPfad(app, nummer);
+    QString vorhanden;
+    underIgnoredErrors([&] { vorhanden = Dir(pfad); });
+    if (!vorhanden.isEmpty()
+        && app.ui.MsgBox(QStringLiteral("Bestehende Datei überschreiben "), vbYesNo, QStringLiteral("Speichern unter")) != vbYes)
+        return;
+    underIgnoredErrors([&] { GeloeschteKarteSchreiben(app, pfad); });
+}
+
+}  // namespace
+
+std::vector<MaskenPlatz> geloeschteKartePlaetze(Merkkartelle& app)
+{
+    auto& m = app.Hauptmaske;
+    std::vector<MaskenPlatz> p;
+    p.reserve(kDateiWerte);
+    for (int i = 0; i <= 22; ++i)
+        p.push_back(platz(m.feld[i].Text));
+    p.push_back(platz(m.Bemerkung.Text));
+    for (int i = 1; i <= 10; ++i)
+        p.push_back(platz(app.Aform.FeldA[i].Text));
+    for (int i = 1; i <= 10; ++i)
+        p.push_back(platz(app.Aform.feldB[i].Text));
+    for (int i = 0; i <= 3; ++i)
+        p.push_back(platz(m.feldnum[i].Text));
+    for (int i = 1; i <= 20; ++i)
+        p.push_back(platz(m.prog[i].Text));
+    p.push_back(platz(m.Zeit.Caption));  // the date of the last change is not kept
+    p.push_back(platz(m.Partido.Text));
+    p.push_back(platz(m.Ramal.Text));
+    p.push_back(platz(m.recdate.Caption));
+    p.push_back(platz(m.rectime.Caption));
+    for (TextBox* tel : {&m.tel1, &m.tel2, &m.tel3, &m.tel4})
+        p.push_back(platz(tel->Text));
+    for (int i = 0; i <= 6; ++i)
+        p.push_back(MaskenPlatz{nullptr, &m.Typenliste[i]});
+    for (TextBox* feld : {&m.Text9, &m.Text11, &m.Text10, &m.Text12, &m.Text13, &m.Text14})
+        p.push_back(platz(feld->Text));
+    p.push_back(platz(m.Text15.Text));
+    p.push_back(platz(m.feldbank[0].Text));
+    p.push_back(platz(m.feldbank[2].Text));
+    p.push_back(platz(m.feldbank[1].Text));
+    return p;
+}
+
+void GeloeschteKarteSchreiben(Merkkartelle& app, const QString& path)
+{
+    std::vector<WriteValue> werte;
+    for (const MaskenPlatz& p : geloeschteKartePlaetze(app))
+        werte.emplace_back(p.lesen());
+    writePositionalFile(path, werte);
+}
+
+void GeloeschteKarteLesen(Merkkartelle& app, const QString& path)
+{
+    TextReader datei(path);
+    const std::vector<MaskenPlatz> plaetze = geloeschteKartePlaetze(app);
+    for (std::size_t i = 0; i < plaetze.size() && !datei.atEnd(); ++i)
+        plaetze[i].schreiben(datei.next());
+}
+
+void AdresseLöschen_Click(Merkkartelle& app)
+{
+    // An open card cannot be deleted: the button is off then anyway.
+    if (eingabeGesperrt(app) || bearbeitungOffen(app))
+        return;
+    auto& m = app.Hauptmaske;
+    m.AdresseLöschen.Enabled = false;
+
+    // The user sees what goes.
+    DatenInMaske(app);
+    PositionAnzeigen(app);
+    SerienbriefVeraltet(app);
+
+    if (kartenzahl(app) == 0) {
+        MaskeLeeren(app);
+        PositionAnzeigen(app);
+        app.ui.MsgBox(QStringLiteral("Keine Daten gefunden - leere Datenbank.") + kZeilenumbruch
+                          + QStringLiteral("Löschen nicht möglich."),
+                      vbOKOnly, QStringLiteral("Löschen"));
+        return;
+    }
+
+    const QString nummer = m.LaufendeNummer.Caption;
+    if (app.ui.MsgBox(loeschFrage(app, nummer), loeschKnoepfe(app), QStringLiteral("Eintrag löschen")) != vbYes)
+        return;
+
+    kopieSichern(app, nummer);
+
+    underIgnoredErrors([&] { kartensatz(app).Delete(); });
+    underIgnoredErrors([&] { kartensatz(app).MoveNext(); });
+    bool amEnde = false;
+    underIgnoredErrors([&] { amEnde = kartensatz(app).IsEOF(); });
+    if (amEnde)
+        underIgnoredErrors([&] { kartensatz(app).MoveLast(); });
+
+    SerienbriefVeraltet(app);
+    MaskeLeeren(app);
+    DatenInMaske(app);
+    PositionAnzeigen(app);
+    if (kartenzahl(app) == 0)
+        MaskeLeeren(app);
+    m.AdresseLöschen.Enabled = true;
+}
+
+void config_Command7_Click(Merkkartelle& app)
+{
+    if (app.NurLesen == QStringLiteral("1") || bearbeitungOffen(app))
+        return;
+    NeuenEintragOeffnen(app);
+
+    arbeitsverzeichnisSetzen(app);
+    FileDialog& dialog = app.config.CMDialog1;
+    dialog.Filter = QStringLiteral("Gelöschte Einträge (*.dat)|*.dat|");
+    dialog.DialogTitle = QStringLiteral("Gelöschten Einträge wiederherstellen");
+    dialog.InitDir = app.Arbeitsverzeichnis;
+    dialog.FileName.clear();
+    const FileChoice wahl = app.ui.ShowOpen(dialog);
+    if (wahl.cancelled)
+        return;  // the new card stays open
+    underIgnoredErrors([&] { GeloeschteKarteLesen(app, wahl.FileName); });
+}
+
+}  // namespace mk
