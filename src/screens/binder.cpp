@@ -630,20 +630,8 @@ void Binder::onWindowGeometry(QObject* watched, QEvent* event)
     const Target t = targetOf(watched);
     if (!t.view || t.binding || t.widget != watched || !t.widget->isVisible())
         return;
-    Form& f = app_.forms.form(t.view->form);
-    QWidget* w = t.widget;
-    if (event->type() == QEvent::WindowStateChange) {
-        f.WindowState = w->isMinimized() ? vbMinimized : w->isMaximized() ? vbMaximized : vbNormal;
-        t.view->last.windowState = f.WindowState;
-        return;
-    }
-    const QPoint at = w->frameGeometry().topLeft();
-    f.Left = pixelsToTwips(at.x());
-    f.Top = pixelsToTwips(at.y());
-    f.Width = pixelsToTwips(w->width());
-    f.Height = pixelsToTwips(w->height());
-    t.view->last.geometry = QRect(px(f.Left), px(f.Top), px(f.Width), px(f.Height));
-    if (event->type() == QEvent::Resize && !w->isMinimized())
+    readWindowGeometry(*t.view);
+    if (event->type() == QEvent::Resize && !t.widget->isMinimized())
         fire(t.view->form, QStringLiteral("Resize"));
 }
 

@@ -99,6 +99,7 @@ private:
     void pushView(View& view);
     void pushForm(View& view);
     void pushWindowVisibility(View& view);
+    void readWindowGeometry(View& view);
     void pushControl(Binding& binding, Control& control);
     void pushCommon(Binding& binding, const Control& control, QWidget* widget);
     void pushColours(Binding& binding, const Control& control, QWidget* widget);

@@ -133,6 +133,21 @@ void Binder::pushWindowVisibility(View& view)
         w->show();
     w->raise();
     w->activateWindow();
+    readWindowGeometry(view);  // the size the view chose is the form's from now on
+}
+
+void Binder::readWindowGeometry(View& view)
+{
+    Form& f = app_.forms.form(view.form);
+    QWidget* w = view.window;
+    f.WindowState = w->isMinimized() ? vbMinimized : w->isMaximized() ? vbMaximized : vbNormal;
+    view.last.windowState = f.WindowState;
+    const QPoint at = w->frameGeometry().topLeft();
+    f.Left = pixelsToTwips(at.x());
+    f.Top = pixelsToTwips(at.y());
+    f.Width = pixelsToTwips(w->width());
+    f.Height = pixelsToTwips(w->height());
+    view.last.geometry = QRect(px(f.Left), px(f.Top), px(f.Width), px(f.Height));
 }
 
 void Binder::pushControl(Binding& b, Control& control)

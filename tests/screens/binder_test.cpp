@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -325,6 +326,55 @@ TEST_F(BinderTest, FormTimersTickOnQtTimersWhileTheyRun)
     binder.run([&] { showForm(app, "Message", true); });
     EXPECT_EQ(ticks, 1);
     EXPECT_FALSE(binder.window("Message")->isVisible());
+}
+
+TEST_F(BinderTest, ChoosingALineSetsListIndexBeforeItsClickRuns)
+{
+    ListBox& list = app.Cidadefrm.List1;
+    for (const char* city : {"Berlin", "Bonn", "Köln"})
+        list.AddItem(QString::fromUtf8(city));
+    show(QStringLiteral("Cidadefrm"));
+    std::vector<QString> seen;
+    app.handlers.on("Cidadefrm", "List1", "Click", [&](Merkkartelle& a, EventArgs&) {
+        seen.push_back(QStringLiteral("%1:%2").arg(a.Cidadefrm.List1.ListIndex).arg(a.Cidadefrm.List1.Text()));
+    });
+    app.handlers.on("Cidadefrm", "List1", "DblClick", [&](Merkkartelle&, EventArgs&) { seen.push_back("double"); });
+    auto* widgetList = widget<QListWidget>(QStringLiteral("Cidadefrm.List1"));
+    ASSERT_EQ(widgetList->count(), 3);
+    const QPoint bonn = widgetList->visualItemRect(widgetList->item(1)).center();
+    QTest::mouseClick(widgetList->viewport(), Qt::LeftButton, {}, bonn);
+    QTest::mouseDClick(widgetList->viewport(), Qt::LeftButton, {}, bonn);
+    EXPECT_EQ(seen, (std::vector<QString>{"1:Bonn", "double"}));
+
+    // A handler that empties the list and chooses no line is shown as it left it.
+    binder.run([&] { list.Clear(); });
+    EXPECT_EQ(widgetList->count(), 0);
+}
+
+TEST_F(BinderTest, AKeyOnANoticeWithoutControlsReachesTheForm)
+{
+    app.handlers.onForm("Message", "KeyDown", [](Merkkartelle& a, EventArgs&) { unloadForm(a, "Message"); });
+    app.Message.Label1.Caption = QStringLiteral("Aktuelle Einstellungen wurden gespeichert");
+    QTimer::singleShot(0, [&] { QTest::keyClick(binder.window("Message"), Qt::Key_Space); });
+    binder.run([&] { showForm(app, "Message", true); });
+    EXPECT_FALSE(app.Message.Loaded);
+    EXPECT_FALSE(binder.window("Message")->isVisible());
+}
+
+TEST_F(BinderTest, TheWindowsGeometryAndTheFormsGoBothWays)
+{
+    show(QStringLiteral("Form3"));
+    QWidget* window = binder.window("Form3");
+    EXPECT_EQ(app.Form3.Width, window->width() * 15);
+    EXPECT_EQ(app.Form3.Height, window->height() * 15);
+    binder.run([&] { app.Form3.Width = 6000; });
+    EXPECT_EQ(window->width(), 400);
+
+    std::vector<int> widths;
+    app.handlers.onForm("Form3", "Resize", [&](Merkkartelle& a, EventArgs&) { widths.push_back(a.Form3.Width); });
+    window->resize(450, window->height());
+    EXPECT_EQ(app.Form3.Width, 450 * 15);
+    EXPECT_EQ(widths, std::vector<int>{450 * 15});
 }
 
 TEST(Conversions, ColoursKeysAndFilters)
