@@ -251,8 +251,8 @@ void KartenbildZeigen(Merkkartelle& app)
         bild.Picture.clear();
         bild.PictureWidth = bild.PictureHeight = 0;
         m.Label16.Caption.clear();
-        m.Label32.Caption = QString::number(bild.Width);
-        m.Label33.Caption = QString::number(bild.Height);
+        m.Label32.Caption = QString::number(bild.Width / kTwipsPerPixel);  // in pixels, as their hints say
+        m.Label33.Caption = QString::number(bild.Height / kTwipsPerPixel);
         return;
     }
     QString gefunden;
