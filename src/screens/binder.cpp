@@ -145,9 +145,13 @@ void Binder::attach(const QString& form, QWidget* window)
     // the state sets another.
     view->last.geometry = QRect(px(f.Left), px(f.Top), px(f.Width), px(f.Height));
     view->last.windowState = f.WindowState;
+    // The status line is Panel3D3 unless the view names another panel.
+    QString statusPanel = window->property("mkStatusLine").toString();
+    if (statusPanel.isEmpty())
+        statusPanel = QStringLiteral("Panel3D3");
     for (const ControlRef& ref : app_.forms.controls(form)) {
         const QString name = widgetName(ref);
-        if (sameName(ref.name, QStringLiteral("Panel3D3")) && ref.index < 0)
+        if (sameName(ref.name, statusPanel) && ref.index < 0)
             view->statusLine = f.Name + QStringLiteral(".") + ref.name;
         if (ref.kind == ControlKind::MenuItem) {
             if (auto* action = window->findChild<QAction*>(name))

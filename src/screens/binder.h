@@ -8,8 +8,15 @@
 // Input into state: before a handler runs, what the user did is written into the state (the
 // typed text, the click on a check box, the chosen line), then the handler runs through the
 // handler table, then refresh(). Keys go to the form first when it previews keys (KeyDown,
-// KeyPress, KeyUp with the old key codes); hints go to the form's status line `Panel3D3` on
-// mouse movement and to the tooltips; moving over the form itself clears the status line.
+// KeyPress, KeyUp with the old key codes); hints go to the form's status line on mouse
+// movement and to the tooltips; moving over the form itself clears the status line. The
+// status line is the panel `Panel3D3`, or the panel a view names in its window's property
+// "mkStatusLine".
+//
+// A widget whose property "mkGeometry" is "full" is placed by the control's Left, Top,
+// Width and Height; "width" takes only the Width (a progress bar). Other widgets belong to
+// their layouts. The pages of a QStackedWidget share one place: the last page whose control
+// is Visible shows (a panel opened in front of the notes), else the first page.
 //
 // Widgets are found by objectName: the control's name, with the index for an element of a
 // control array ("feld(4)", "NeueAdresse"); menu items are QActions of that name.
