@@ -5,6 +5,8 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QColorDialog>
+#include <QFontDialog>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -120,6 +122,37 @@ TEST(QtFileDialog, TheTickedReadOnlyBoxComesBackAsFlags1025)
 
     whenShown<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
     EXPECT_TRUE(ui.ShowOpen(request).cancelled);
+}
+
+TEST(QtColourAndFontDialogs, AnswerInTheOldColourLongsAndFontValues)
+{
+    QtUserInterface ui;
+    whenShown<QColorDialog>([](QColorDialog* dialog) {
+        EXPECT_EQ(dialog->currentColor(), QColor(0, 0, 128));  // the initial long 0x800000
+        dialog->setCurrentColor(QColor(255, 128, 0));
+        dialog->accept();
+    });
+    ColorChoice colour = ui.ShowColor(rgb(0, 0, 128));
+    EXPECT_FALSE(colour.cancelled);
+    EXPECT_EQ(colour.Color, rgb(255, 128, 0));
+    whenShown<QColorDialog>([](QColorDialog* dialog) { dialog->reject(); });
+    colour = ui.ShowColor(rgb(1, 2, 3));
+    EXPECT_TRUE(colour.cancelled);
+    EXPECT_EQ(colour.Color, rgb(1, 2, 3));
+
+    whenShown<QFontDialog>([](QFontDialog* dialog) {
+        QFont font(QStringLiteral("Liberation Sans"));
+        font.setPointSizeF(14);
+        font.setBold(true);
+        dialog->setCurrentFont(font);
+        dialog->accept();
+    });
+    const FontChoice font = ui.ShowFont(FontChoice{false, QStringLiteral("Arial"), 10, false, false});
+    EXPECT_FALSE(font.cancelled);
+    EXPECT_EQ(font.Name, "Liberation Sans");
+    EXPECT_EQ(font.Size, 14);
+    EXPECT_TRUE(font.Bold);
+    EXPECT_FALSE(font.Italic);
 }
 
 class QtDoEventsTest : public ScreensTest {};

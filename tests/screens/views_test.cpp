@@ -129,6 +129,29 @@ TEST_F(ViewsTest, TheWindowsAreGrabbedIntoPictures)
         app.Hauptmaske.Morephones.Visible = true;
     });
     save(main, QStringLiteral("Hauptmaske-Morephones"));
+    binder.run([&] {
+        // A new card being entered while the types are named.
+        Hauptmaske& m = app.Hauptmaske;
+        m.Morephones.Visible = false;
+        m.NeueAdresse.Caption = QStringLiteral("Speichern");
+        m.NeueAdresseAbbruch.Visible = true;
+        m.AdresseÄndern.Enabled = false;
+        m.AdresseLöschen.Enabled = false;
+        m.Label8.Caption = QStringLiteral("Neuer Eintrag 13 ");
+        m.Command3D23.Picture = m.bildrecortar.Picture;
+        m.Command3D24.Picture = m.bildcopy.Picture;
+        m.Command3D25.Picture = m.bildpaste.Picture;
+        m.Command3D13.Picture = m.bildbild.Picture;
+        TextBox* names[] = {&m.Text2, &m.Text3, &m.Text4, &m.Text5, &m.Text6, &m.Text7, &m.Text8};
+        const char* types[] = {"Kunde", "Lieferant", "Privat", "Verein", "Presse", "Behörde", "Sonstige"};
+        for (int i = 0; i < 7; ++i) {
+            names[i]->Visible = true;
+            names[i]->Text = QString::fromUtf8(types[i]);
+        }
+        m.Command6.Visible = true;
+        m.Command2.Visible = true;
+    });
+    save(main, QStringLiteral("Hauptmaske-Neu"));
     binder.run([&] { app.Hauptmaske.Bildschutz.Visible = true; });
     save(main, QStringLiteral("Hauptmaske-Bildschutz"));
     binder.run([&] { app.Hauptmaske.Bildschutz.Visible = false; });
