@@ -1,7 +1,7 @@
 #pragma once
-// An application home in a temporary folder with the system object on top of it: cards are
-// put into the default database, the INI file and companion files written, then the start
-// routine runs through the handlers with scripted answers.
+// An application home in a temporary folder under the system object: cards go into the
+// default database (or another one), the INI and settings files are written, then the
+// start routine runs with scripted answers.
 
 #include "card/app_state.h"
 #include "card/session.h"
@@ -17,7 +17,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <cstdlib>
 #include <initializer_list>
 #include <memory>
 #include <utility>
@@ -40,24 +39,21 @@ protected:
     void TearDown() override { qunsetenv("MERKKARTELLE_HOME"); }
 
     QString homeFile(const QString& name) const { return joinPath(home, name); }
+    QString defaultDatabase() const { return homeFile(QString::fromLatin1(DefaultDatabaseName)); }
 
-    // Adds a card to the database at path (the default database without one); its number.
-    static qlonglong addCardTo(const QString& path, CardValues values)
+    static void addCardTo(const QString& path, CardValues values)
     {
-        DatabasePtr db = Database::open(path);
-        RecordsetPtr rs = db->createDynaset(QStringLiteral("Adressenstamm"));
+        RecordsetPtr rs = Database::open(path)->createDynaset(QStringLiteral("Adressenstamm"));
         rs->AddNew();
         for (const auto& [name, value] : values)
             rs->Fields(QString::fromUtf8(name)).setValue(value);
         rs->Update();
-        rs->MoveLast();
-        const qlonglong number = rs->Fields(QStringLiteral("Laufendenummer")).Value().toLongLong();
-        db->close();
-        return number;
     }
-    qlonglong addCard(CardValues values) { return addCardTo(homeFile(QString::fromLatin1(DefaultDatabaseName)), values); }
+    void addCard(CardValues values) { addCardTo(defaultDatabase(), values); }
+    // The stored cards, read afresh.
+    RecordsetPtr stored() const { return Database::open(defaultDatabase())->createDynaset(QStringLiteral("Adressenstamm")); }
 
-    // A further card database in a folder of its own.
+    // An empty card database karten.mdb in a folder of the home.
     QString makeDatabase(const QString& folder)
     {
         QDir().mkpath(homeFile(folder));
@@ -75,38 +71,32 @@ protected:
         return GetPrivateProfileString(QStringLiteral("Databases"), QString::fromLatin1(key), QStringLiteral("<none>"),
                                        iniFilePath());
     }
-
-    // merkkartelle.cfg with the given records (1-based); the others empty.
-    void settingsFile(const QString& folder, std::initializer_list<std::pair<int, QString>> records)
+    // merkkartelle.cfg in the home with the given records (numbered from 1), the others empty.
+    void settingsFile(std::initializer_list<std::pair<int, QString>> records)
     {
         std::vector<WriteValue> values(196, WriteValue(QString()));
         for (const auto& [n, text] : records)
             values[std::size_t(n - 1)] = WriteValue(text);
-        writePositionalFile(joinPath(folder, QStringLiteral("merkkartelle.cfg")), values);
+        writePositionalFile(homeFile(QStringLiteral("merkkartelle.cfg")), values);
     }
-
-    static QByteArray fileBytes(const QString& path)
+    QByteArray fileBytes(const QString& name) const
     {
-        QFile f(path);
+        QFile f(homeFile(name));
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
     }
 
-    // The start routine; true when it returned (no End on the way).
     void start() { Start(app()); }
-
-    // A new system object, as a new run of the program.
-    void restart() { system = std::make_unique<ScriptedSystem>(); }
+    void restart() { system = std::make_unique<ScriptedSystem>(); }  // a new run of the program
 
     Merkkartelle& app() { return system->app; }
     ScriptedUserInterface& ui() { return system->ui; }
     Hauptmaske& mask() { return system->app.Hauptmaske; }
+    QString shown() { return mask().feld[4].Text; }
     void click(const QString& path)
     {
-        ControlRef ref = app().forms.control(path);
-        applyClick(app().forms, ref);
+        applyClick(app().forms, app().forms.control(path));
         raiseEvent(app(), path, QStringLiteral("Click"));
     }
-    // The prompts of the message boxes shown so far.
     QStringList prompts() const
     {
         QStringList out;
