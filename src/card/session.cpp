@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "card/card_cursor.h"
+#include "card/card_editing.h"
 #include "card/mask_transfer.h"
 #include "card/notice.h"
 #include "history/global_view.h"
@@ -109,23 +110,6 @@ void schliessen(const std::shared_ptr<T>& objekt)
         if (objekt)
             objekt->close();
     });
-}
-
-// The cancel of an open entry or change before the end: the buffer dropped, the card that
-// was shown before put back into the mask, so that its number is the one kept.
-void bearbeitungVerwerfen(Merkkartelle& app)
-{
-    auto& m = app.Hauptmaske;
-    app.NeuerEintrag = 0;
-    underIgnoredErrors([&] { kartensatz(app).CancelUpdate(); });
-    m.NeueAdresse.Caption = kNeuCaption;
-    m.AdresseÄndern.Caption = kBearbeitenCaption;
-    if (kartenzahl(app) != 0) {
-        underIgnoredErrors([&] { kartensatz(app).setBookmark(app.Lesezeichen); });
-        DatenInMaske(app);
-    } else {
-        MaskeLeeren(app);
-    }
 }
 
 }  // namespace
@@ -339,7 +323,10 @@ void SSCommand1_Click(Merkkartelle& app)
             + QStringLiteral("\r\n") + QStringLiteral("Programm beenden ?");
         if (app.ui.MsgBox(frage, vbYesNo) != vbYes)
             return;
-        bearbeitungVerwerfen(app);
+        if (aenderungOffen(app))
+            AdresseÄndernAbbruch_Click(app);
+        else
+            NeueAdresseAbbruch_Click(app);
     }
 
     m.Label36.Caption = m.LaufendeNummer.Caption;
