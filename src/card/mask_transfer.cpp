@@ -171,7 +171,7 @@ void BildEinpassen(Image& bild, const Control& rahmen)
 {
     const int breite = std::max(rahmen.Width - kBildRand, 0);
     const int hoehe = std::max(rahmen.Height - kBildRand, 0);
-    bild.Stretch = true;
+    bild.Stretch = false;  // never distorted: the size below keeps the picture's proportions
     if (bild.PictureWidth > 0 && bild.PictureHeight > 0 && breite > 0 && hoehe > 0) {
         const double skala = std::min(double(breite) / bild.PictureWidth, double(hoehe) / bild.PictureHeight);
         bild.Width = int(bild.PictureWidth * skala);
