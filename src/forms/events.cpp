@@ -9,7 +9,10 @@ HandlerTable::Key HandlerTable::key(const QString& form, const QString& control,
 
 void HandlerTable::on(const QString& form, const QString& control, const QString& event, Handler handler)
 {
-    handlers_[key(form, control, event)] = std::move(handler);
+    // Two subsystems claiming one event would silently lose one of them; keep a record.
+    auto [it, fresh] = handlers_.insert_or_assign(key(form, control, event), std::move(handler));
+    if (!fresh)
+        duplicates_.push_back(form + QLatin1Char('.') + control + QLatin1Char('.') + event);
 }
 
 void HandlerTable::on(const QString& form, const QString& control, const QString& event,

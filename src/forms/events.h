@@ -8,6 +8,7 @@
 // The Qt binder and the headless driver dispatch through this table and nothing else.
 
 #include <QString>
+#include <QStringList>
 #include <exception>
 #include <functional>
 #include <map>
@@ -83,11 +84,14 @@ public:
         return find(form, control, event) != nullptr;
     }
     int size() const { return int(handlers_.size()); }
+    // Events that were registered more than once ("Form.Control.Event"), the later winning.
+    const QStringList& duplicates() const { return duplicates_; }
 
 private:
     using Key = std::tuple<QString, QString, QString>;
     static Key key(const QString& form, const QString& control, const QString& event);
     std::map<Key, Handler> handlers_;
+    QStringList duplicates_;
 };
 
 // The program's end (the old End statement): unwinds every running handler and modal loop

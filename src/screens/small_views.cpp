@@ -1,7 +1,10 @@
 // The notice Message, the splash AboutBox and the order form Form3, and the choice of a view.
 
+#include "screens/cidadefrm_view.h"
 #include "screens/conversions.h"
+#include "screens/form2_view.h"
 #include "screens/settings_views.h"
+#include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
 #include "screens/views.h"
 
@@ -128,6 +131,12 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildConfigView(forms);
     if (name == QLatin1String("malaglobalview"))
         return buildMalaglobalviewView(forms);
+    if (name == QLatin1String("Form2"))
+        return buildForm2View(forms);
+    if (name == QLatin1String("TypenlisteBenutzerdefiniert"))
+        return buildTypenlisteBenutzerdefiniertView(forms);
+    if (name == QLatin1String("Cidadefrm"))
+        return buildCidadefrmView(forms);
     return buildGenericView(forms, name);
 }
 

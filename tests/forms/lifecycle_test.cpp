@@ -35,7 +35,7 @@ TEST_F(LifecycleTest, DispatchReachesTheHandlerWithTheIndex)
     raiseEvent(app, "Hauptmaske.feld(2)", "KeyPress", keyArgs);
     EXPECT_EQ(keyArgs.KeyAscii, 0);  // a handler swallows the key through the args
 
-    EXPECT_FALSE(raiseEvent(app, "Hauptmaske.AdresseLöschen", "Click"));  // no handler: nothing
+    EXPECT_FALSE(raiseEvent(app, "Hauptmaske.Label33", "DblClick"));  // no handler: nothing
     EXPECT_THROW(raiseEvent(app, "Hauptmaske.feld(40)", "Change"), FormsError);
     EXPECT_THROW(raiseEvent(app, "Hauptmaske.Unbekannt", "Click"), FormsError);
 }
