@@ -21,26 +21,26 @@ long toVbColour(const QColor& colour)
     return rgb(colour.red(), colour.green(), colour.blue());
 }
 
-QFont toQFont(const FontSpec& spec, const QFont& base)
+QFont toQFont(const FontSpec& wanted, const QFont& base)
 {
     QFont font = base;
-    if (!spec.Name.isEmpty())
-        font.setFamilies({spec.Name});
-    if (spec.Size > 0)
-        font.setPointSizeF(spec.Size);
-    font.setBold(spec.Bold);
-    font.setItalic(spec.Italic);
+    if (!wanted.Name.isEmpty())
+        font.setFamilies({wanted.Name});
+    if (wanted.Size > 0)
+        font.setPointSizeF(wanted.Size);
+    font.setBold(wanted.Bold);
+    font.setItalic(wanted.Italic);
     return font;
 }
 
 FontSpec toFontSpec(const QFont& font)
 {
-    FontSpec spec;
-    spec.Name = font.family();
-    spec.Size = font.pointSizeF() > 0 ? font.pointSizeF() : 8.25;
-    spec.Bold = font.bold();
-    spec.Italic = font.italic();
-    return spec;
+    FontSpec wanted;
+    wanted.Name = font.family();
+    wanted.Size = font.pointSizeF() > 0 ? font.pointSizeF() : 8.25;
+    wanted.Bold = font.bold();
+    wanted.Italic = font.italic();
+    return wanted;
 }
 
 bool sameFont(const FontSpec& a, const FontSpec& b)

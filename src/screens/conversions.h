@@ -25,7 +25,7 @@ QColor toQColor(long vbColour);
 long toVbColour(const QColor& colour);
 
 // The font of a control on top of the widget's own font: name, size in points, bold, italic.
-QFont toQFont(const FontSpec& spec, const QFont& base);
+QFont toQFont(const FontSpec& wanted, const QFont& base);
 FontSpec toFontSpec(const QFont& font);
 bool sameFont(const FontSpec& a, const FontSpec& b);
 

@@ -254,14 +254,14 @@ ColorChoice QtUserInterface::ShowColor(long initial)
 
 FontChoice QtUserInterface::ShowFont(const FontChoice& initial)
 {
-    FontSpec spec;
+    FontSpec start;
     if (!initial.Name.isEmpty())
-        spec.Name = initial.Name;
+        start.Name = initial.Name;
     if (initial.Size > 0)
-        spec.Size = initial.Size;
-    spec.Bold = initial.Bold;
-    spec.Italic = initial.Italic;
-    QFontDialog dialog(toQFont(spec, QApplication::font()), parentWindow());
+        start.Size = initial.Size;
+    start.Bold = initial.Bold;
+    start.Italic = initial.Italic;
+    QFontDialog dialog(toQFont(start, QApplication::font()), parentWindow());
     FontChoice choice = initial;
     choice.cancelled = true;
     if (exec(dialog) != QDialog::Accepted)
