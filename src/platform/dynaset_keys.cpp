@@ -186,9 +186,10 @@ jet::Sql selectFrom(const Source& source, const std::string& what)
 {
     jet::Sql sql{"SELECT " + what + " FROM " + source.table->quotedName, {}};
     const auto resolve = source.table->resolver();
+    const auto integer = source.table->integerColumn();
     for (std::size_t i = 0; i < source.filters.size(); ++i) {
         sql.text += i == 0 ? " WHERE (" : " AND (";
-        appendSql(sql, jet::toSql(*source.filters[i], resolve, nextParam(sql)));
+        appendSql(sql, jet::toSql(*source.filters[i], resolve, integer, nextParam(sql)));
         sql.text += ')';
     }
     return sql;
@@ -411,7 +412,8 @@ MatchSet& matchSetFor(Connection& conn, const Source& source, KeySet& keys, cons
     set.serial = writeSerial();
     set.dataVersion = conn.dataVersion();
     set.checked = std::chrono::steady_clock::now();
-    set.sql = jet::toSql(*jet::parseExpression(criteria), source.table->resolver());
+    set.sql = jet::toSql(*jet::parseExpression(criteria), source.table->resolver(),
+                         source.table->integerColumn());
     set.perRow = keys.keys.size() < PerRowLimit
         && std::int64_t(keys.keys.size()) * 8 < highestRowid(conn, *source.table);
     if (set.perRow)

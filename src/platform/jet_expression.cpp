@@ -508,9 +508,35 @@ std::string quoteIdentifier(const QString& name)
     return out;
 }
 
+// The integer D when text, without its trailing blanks, is exactly how an integer reads as
+// text: optional minus, no leading zeros, no plus, within 64 bits. Only then is "the text of
+// x equals text" the same as "x = D" for an integer x.
+std::optional<qlonglong> integerText(const QString& text)
+{
+    qsizetype length = text.size();
+    while (length > 0 && text[length - 1] == u' ')
+        --length;
+    const QStringView s = QStringView(text).first(length);
+    if (s.isEmpty())
+        return std::nullopt;
+    for (qsizetype i = 0; i < s.size(); ++i) {
+        const char16_t c = s[i].unicode();
+        if (!((c >= u'0' && c <= u'9') || (c == u'-' && i == 0)))
+            return std::nullopt;
+    }
+    bool ok = false;
+    const qlonglong value = s.toLongLong(&ok);
+    if (!ok || numberAsText(value) != s)
+        return std::nullopt;
+    return value;
+}
+
 class Translator {
 public:
-    Translator(const ColumnResolver& resolve, int firstParam) : resolve_(resolve), first_(firstParam) {}
+    Translator(const ColumnResolver& resolve, int firstParam, const IntegerColumn* integerColumn = nullptr)
+        : resolve_(resolve), integer_(integerColumn), first_(firstParam)
+    {
+    }
 
     std::string sql(const Node& n) { return sql(n, false); }
     Sql take() { return std::move(out_); }
@@ -543,6 +569,8 @@ private:
         case K::Compare: {
             const Node& a = *n.kids[0];
             const Node& b = *n.kids[1];
+            if (auto byKey = leftOfIntegerEquals(n))
+                return *byKey;
             std::string left = sql(a, staticKind(b) == Kind::Text);
             std::string right = sql(b, staticKind(a) == Kind::Text);
             return "(" + left + " COLLATE JETTEXT " + n.name.toStdString() + " " + right + ")";
@@ -565,6 +593,40 @@ private:
         case K::Call: return call(n.name.toStdString(), n);
         }
         return "NULL";
+    }
+
+    // LEFT(col, n) = 'D' (either way round) for an integer column and a text D that reads as
+    // an integer of fewer than n characters once its trailing blanks are gone. An integer's
+    // text has no blanks: if it is longer than n, LEFT gives n characters, which can never
+    // equal the shorter D; otherwise LEFT gives the whole text, which equals D exactly when
+    // the integer is D (digits and the minus compare exactly in the General order). So the
+    // comparison is "col" = D, which finds the row through the key instead of calling LEFT
+    // on every row. Anything else keeps the general translation.
+    std::optional<std::string> leftOfIntegerEquals(const Node& n)
+    {
+        if (!integer_ || !*integer_ || n.name != QLatin1StringView("="))
+            return std::nullopt;
+        for (int side = 0; side < 2; ++side) {
+            const Node& call = *n.kids[side];
+            const Node& text = *n.kids[1 - side];
+            if (call.kind != Node::Kind::Call || call.name != QLatin1StringView("jet_left")
+                || call.kids.size() != 2 || call.kids[0]->kind != Node::Kind::Column
+                || text.kind != Node::Kind::Literal || text.value.typeId() != QMetaType::QString)
+                continue;
+            const Node& count = *call.kids[1];
+            // Only a whole count that LEFT accepts: a larger one is an error of LEFT's own.
+            if (count.kind != Node::Kind::Literal || count.value.typeId() != QMetaType::LongLong
+                || count.value.toLongLong() > 2147483647LL)
+                continue;
+            const std::optional<qlonglong> d = integerText(text.value.toString());
+            if (!d || numberAsText(*d).size() >= count.value.toLongLong())
+                continue;
+            const std::optional<QString> real = resolve_ ? resolve_(call.kids[0]->name) : std::nullopt;
+            if (!real || !(*integer_)(*real))
+                continue;
+            return "(" + quoteIdentifier(*real) + " = " + param(*d) + ")";
+        }
+        return std::nullopt;
     }
 
     std::string joined(const Node& n, const char* op)
@@ -600,6 +662,7 @@ private:
     }
 
     const ColumnResolver& resolve_;
+    const IntegerColumn* integer_;
     int first_;
     Sql out_;
 };
@@ -626,6 +689,15 @@ std::optional<QString> plainColumn(const Node& node)
 Sql toSql(const Node& node, const ColumnResolver& resolve, int firstParam)
 {
     Translator t(resolve, firstParam);
+    std::string text = t.sql(node);
+    Sql out = t.take();
+    out.text = std::move(text);
+    return out;
+}
+
+Sql toSql(const Node& node, const ColumnResolver& resolve, const IntegerColumn& integerColumn, int firstParam)
+{
+    Translator t(resolve, firstParam, &integerColumn);
     std::string text = t.sql(node);
     Sql out = t.take();
     out.text = std::move(text);

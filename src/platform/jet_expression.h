@@ -50,6 +50,11 @@ struct Sql {
 // for a name that is no column. Placeholders are numbered from firstParam, so that pieces
 // can be joined into one statement: params[i] belongs to ?(firstParam + i).
 Sql toSql(const Node& node, const ColumnResolver& resolve, int firstParam = 1);
+// Tells, for a real column name, whether every value of the column is an integer (never
+// Null, never text): an INTEGER PRIMARY KEY. With it, LEFT(col, n) = '<integer text>'
+// becomes "col" = <integer>, which SQLite answers through the key.
+using IntegerColumn = std::function<bool(const QString&)>;
+Sql toSql(const Node& node, const ColumnResolver& resolve, const IntegerColumn& integerColumn, int firstParam = 1);
 // An ORDER BY list (without the keywords) for sort terms; text orders by "JETTEXT".
 Sql toSql(const std::vector<SortTerm>& sort, const ColumnResolver& resolve, int firstParam = 1);
 

@@ -128,6 +128,19 @@ std::string createTableSql(DatabaseKind kind)
         .toStdString();
 }
 
+std::string createKeyIndexSql(DatabaseKind kind)
+{
+    const QString table = tableNameOf(kind);
+    for (const FieldDef& field : schemaOf(kind)) {
+        if (field.Type == FieldType::Counter)
+            return (QStringLiteral("CREATE INDEX IF NOT EXISTS ") + quoted(table + QLatin1Char('_') + field.Name)
+                    + QStringLiteral(" ON ") + quoted(table) + QStringLiteral(" (") + quoted(field.Name)
+                    + QStringLiteral(")"))
+                .toStdString();
+    }
+    return {};
+}
+
 FieldDef fieldFromDeclaration(const QString& name, const QString& declared, bool primaryKey)
 {
     static const QRegularExpression sized(QStringLiteral("^\\s*(?:VAR)?(?:TEXT|CHAR)\\s*\\(\\s*(\\d+)\\s*\\)"),
@@ -163,6 +176,8 @@ void createEmptyDatabase(DatabaseKind kind, const QString& path)
                              SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     if (rc == SQLITE_OK)
         rc = sqlite3_exec(db, createTableSql(kind).c_str(), nullptr, nullptr, nullptr);
+    if (rc == SQLITE_OK && !createKeyIndexSql(kind).empty())
+        rc = sqlite3_exec(db, createKeyIndexSql(kind).c_str(), nullptr, nullptr, nullptr);
     const QString message = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString();
     sqlite3_close_v2(db);
     if (rc != SQLITE_OK) {

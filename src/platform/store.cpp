@@ -119,6 +119,40 @@ void requireOwnFormat(const QString& path)
               QStringLiteral("Die Datei %1 ist keine Datenbank oder hat ein unbekanntes Format.").arg(path));
 }
 
+// A file made before the key index existed gets it on its first writable open, so that a
+// dynaset in the table's order reads its keys from the narrow index. A file that cannot take
+// it now (busy, full) stays usable: the index only saves time, so a failure is passed over.
+void addMissingKeyIndexes(sqlite3* db)
+{
+    for (const DatabaseKind kind : {DatabaseKind::Cards, DatabaseKind::Telephone, DatabaseKind::GlobalView}) {
+        const std::string create = createKeyIndexSql(kind);
+        QString counter;
+        for (const FieldDef& field : schemaOf(kind))
+            if (field.Type == FieldType::Counter)
+                counter = field.Name;
+        if (create.empty() || counter.isEmpty())
+            continue;
+        // Only a read unless the table has its counter as key and no index leads with it.
+        sqlite3_stmt* check = nullptr;
+        const char* sql =
+            "SELECT EXISTS (SELECT 1 FROM pragma_table_info(?1) WHERE name = ?2 COLLATE NOCASE AND pk = 1) "
+            "AND NOT EXISTS (SELECT 1 FROM pragma_index_list(?1) AS l, pragma_index_info(l.name) AS i "
+            "WHERE i.seqno = 0 AND i.name = ?2 COLLATE NOCASE)";
+        if (sqlite3_prepare_v2(db, sql, -1, &check, nullptr) != SQLITE_OK) {
+            sqlite3_finalize(check);
+            return;
+        }
+        const QByteArray table = tableNameOf(kind).toUtf8();
+        const QByteArray column = counter.toUtf8();
+        sqlite3_bind_text(check, 1, table.constData(), int(table.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(check, 2, column.constData(), int(column.size()), SQLITE_TRANSIENT);
+        const bool missing = sqlite3_step(check) == SQLITE_ROW && sqlite3_column_int(check, 0) == 1;
+        sqlite3_finalize(check);
+        if (missing)
+            sqlite3_exec(db, create.c_str(), nullptr, nullptr, nullptr);
+    }
+}
+
 }  // namespace
 
 // ---- the connection -------------------------------------------------------------------
@@ -213,6 +247,14 @@ jet::ColumnResolver TableInfo::resolver() const
     };
 }
 
+jet::IntegerColumn TableInfo::integerColumn() const
+{
+    return [this](const QString& name) {
+        const auto c = column(name);
+        return c && fields[*c].Type == FieldType::Counter;
+    };
+}
+
 std::string quoteName(const QString& name)
 {
     QString q = name;
@@ -291,6 +333,8 @@ DatabasePtr Database::open(const QString& path, bool exclusive, bool readOnly)
     if (rc != SQLITE_OK)
         conn->fail(rc);
     conn->readOnly = readOnly || sqlite3_db_readonly(conn->db, "main") == 1;
+    if (!conn->readOnly)
+        store::addMissingKeyIndexes(conn->db);
 
     DatabasePtr db(new Database());
     db->d->conn = std::move(conn);

@@ -45,6 +45,8 @@ struct TableInfo {
 
     std::optional<int> column(const QString& name) const;
     jet::ColumnResolver resolver() const;
+    // True for the INTEGER PRIMARY KEY (the counter), whose values are always integers.
+    jet::IntegerColumn integerColumn() const;
 };
 
 struct Connection {

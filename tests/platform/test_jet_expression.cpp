@@ -70,9 +70,11 @@ protected:
     }
 
     // The numbers of the cards a criterion selects, in the order of sortText (or by number).
-    std::vector<qlonglong> select(const QString& criterion, const QString& sortText = {})
+    // With keyed, Laufendenummer is told to the translator as the integer key, as the store
+    // tells it.
+    std::vector<qlonglong> select(const QString& criterion, const QString& sortText = {}, bool keyed = false)
     {
-        Sql where = toSql(*parseExpression(criterion), resolve);
+        Sql where = keyed ? toSql(*parseExpression(criterion), resolve, isKey) : toSql(*parseExpression(criterion), resolve);
         Sql order = toSql(parseSort(sortText.isEmpty() ? QStringLiteral("[Laufendenummer]") : sortText),
                           resolve, int(where.params.size()) + 1);
         const std::string sql = "SELECT Laufendenummer FROM Adressenstamm WHERE " + where.text
@@ -88,6 +90,8 @@ protected:
         sqlite3_finalize(st);
         return numbers;
     }
+
+    static bool isKey(const QString& column) { return column == QLatin1String("Laufendenummer"); }
 
     sqlite3* db_ = nullptr;
 };
@@ -115,6 +119,51 @@ TEST_F(CardTable, FindingACardByNumberComparesTheNumberAsTextWithoutLeadingBlank
     EXPECT_EQ(select("[Laufendenummer] LIKE 123"), Numbers{123});
     EXPECT_EQ(select("[Laufendenummer] = '45'"), Numbers{45});
     EXPECT_EQ(select("[Laufendenummer] & '' = '45'"), Numbers{45});
+}
+
+// LEFT(key, n) = '<integer text>' is answered through the key; it must select exactly what
+// the general translation selects.
+TEST_F(CardTable, TheCardNumberCriterionThroughTheKeySelectsTheSameCards)
+{
+    insert({0, "Null", nullptr, nullptr, nullptr});
+    insert({-5, "Minus", nullptr, nullptr, nullptr});
+    insert({1230, "Zehnfach", nullptr, nullptr, nullptr});
+    insert({12345, "Lang", nullptr, nullptr, nullptr});
+    const std::vector<std::pair<const char*, Numbers>> cases{
+        {"LEFT([Laufendenummer], 4) = '123 '", {123}},
+        {"'123 ' = LEFT([Laufendenummer], 4)", {123}},
+        {"LEFT([Laufendenummer], 4) = '123'", {123}},
+        {"LEFT([Laufendenummer], 9) = '123   '", {123}},
+        {"LEFT([Laufendenummer], 3) = '12 '", {12}},
+        {"LEFT([Laufendenummer], 3) = '123 '", {123, 1230, 1234, 12345}},  // n characters: the general way
+        {"LEFT([Laufendenummer], 2) = '123 '", {}},
+        {"LEFT([Laufendenummer], 5) = '0123 '", {}},  // the text of 123 is not "0123"
+        {"LEFT([Laufendenummer], 5) = '00 '", {}},
+        {"LEFT([Laufendenummer], 2) = '0 '", {0}},
+        {"LEFT([Laufendenummer], 4) = '-5 '", {-5}},
+        {"LEFT([Laufendenummer], 4) = '-0 '", {}},
+        {"LEFT([Laufendenummer], 4) = '+5 '", {}},
+        {"LEFT([Laufendenummer], 4) = ' 12'", {}},
+        {"LEFT([Laufendenummer], 5) = '1234 '", {1234}},
+        {"LEFT([Laufendenummer], 6) = '12345'", {12345}},
+        {"LEFT([Laufendenummer], 30) = '99999999999999999999'", {}},
+        {"NOT LEFT([Laufendenummer], 4) = '123 '", {-5, 0, 7, 12, 45, 99, 1230, 1234, 12345}},
+        {"LEFT([Laufendenummer], 4) = '123 ' OR [Nachname] = 'Null'", {0, 123}},
+    };
+    for (const auto& [criterion, expected] : cases) {
+        EXPECT_EQ(select(criterion, {}, true), expected) << criterion;
+        EXPECT_EQ(select(criterion, {}, false), expected) << criterion;
+    }
+
+    const Sql keyed = toSql(*parseExpression("LEFT([Laufendenummer], 4) = '123 '"), resolve, isKey);
+    EXPECT_EQ(keyed.text, "(\"Laufendenummer\" = ?1)");
+    ASSERT_EQ(keyed.params.size(), 1u);
+    EXPECT_EQ(keyed.params[0], QVariant(qlonglong(123)));
+    // Not the key, not a plain integer text, or as long as n: the general translation.
+    for (const char* other : {"LEFT([Nachname], 4) = '123 '", "LEFT([Laufendenummer], 5) = '0123 '",
+                              "LEFT([Laufendenummer], 3) = '123 '", "LEFT([Laufendenummer], 4) <> '123 '",
+                              "LEFT([Laufendenummer], 4) = 123"})
+        EXPECT_NE(toSql(*parseExpression(other), resolve, isKey).text.find("jet_left"), std::string::npos) << other;
 }
 
 TEST_F(CardTable, TextComparisonIgnoresCaseAndTrailingBlanksButNotAccents)

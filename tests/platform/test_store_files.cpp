@@ -105,6 +105,61 @@ TEST(StoreFiles, SchemaSizesAreReadBackFromTheFile)
     EXPECT_TRUE(counterFound);
 }
 
+// The narrow key index: in every new file; added to an older file by a writable open only;
+// a dynaset in the table's order still walks the rows by their keys.
+TEST(StoreFiles, TheKeyIndexIsMadeWhereMissingAndKeepsTheTableOrder)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("karten.mdb"));
+    createEmptyDatabase(DatabaseKind::Cards, path);
+    const auto indexes = [&] {
+        sqlite3* raw = nullptr;
+        sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+        sqlite3_stmt* st = nullptr;
+        sqlite3_prepare_v2(raw, "SELECT count(*) FROM sqlite_master WHERE type = 'index' AND tbl_name = 'Adressenstamm'",
+                           -1, &st, nullptr);
+        sqlite3_step(st);
+        const int n = sqlite3_column_int(st, 0);
+        sqlite3_finalize(st);
+        sqlite3_close(raw);
+        return n;
+    };
+    const auto dropIndexes = [&] {
+        sqlite3* raw = nullptr;
+        sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+        sqlite3_exec(raw, "DROP INDEX \"Adressenstamm_Laufendenummer\"", nullptr, nullptr, nullptr);
+        sqlite3_close(raw);
+    };
+    EXPECT_EQ(indexes(), 1);
+    dropIndexes();
+    ASSERT_EQ(indexes(), 0);
+    Database::open(path, false, true)->close();
+    EXPECT_EQ(indexes(), 0) << "a read-only open writes nothing";
+    {
+        auto db = Database::open(path);
+        EXPECT_EQ(indexes(), 1);
+        auto rs = db->createDynaset(QStringLiteral("Adressenstamm"));
+        for (int i = 0; i < 20; ++i) {
+            rs->AddNew();
+            rs->Fields(QStringLiteral("Nachname")).setValue(QStringLiteral("Karte %1").arg(20 - i));
+            rs->Update();
+        }
+        rs->MoveFirst();
+        rs->Delete();
+        auto again = db->createDynaset(QStringLiteral("Adressenstamm"));
+        QList<qlonglong> numbers;
+        for (again->MoveFirst(); !again->IsEOF(); again->MoveNext())
+            numbers << again->Fields(QStringLiteral("Laufendenummer")).Value().toLongLong();
+        QList<qlonglong> expected;
+        for (qlonglong n = 2; n <= 20; ++n)
+            expected << n;
+        EXPECT_EQ(numbers, expected);
+        db->close();
+    }
+    Database::open(path)->close();
+    EXPECT_EQ(indexes(), 1) << "made once";
+}
+
 TEST(StoreFiles, CallLogAndGlobalViewCountTheirRows)
 {
     QTemporaryDir dir;

@@ -59,6 +59,40 @@ TEST_F(Find, TheCardNumberCriterionFindsExactlyItsCard)
     EXPECT_TRUE(found(QStringLiteral("LEFT([Laufendenummer], 4) = '999 '")).isEmpty());
 }
 
+// The card number criterion is answered through the key; it finds what the text comparison
+// finds, in any order and filter, and nothing more.
+TEST_F(Find, TheCardNumberCriterionAmongManyCards)
+{
+    inOneTransaction([&] {
+        for (int i = 131; i <= 1300; ++i)
+            add({{"Nachname", QStringLiteral("Karte %1").arg(i)}});
+    });
+    auto base = db->createDynaset(QStringLiteral("Adressenstamm"));
+    base->Sort = QStringLiteral("[Nachname] DESC");
+    auto sorted = base->createDynaset();
+    for (const RecordsetPtr& rs : {db->createDynaset(QStringLiteral("Adressenstamm")), sorted}) {
+        EXPECT_EQ(found(rs, QStringLiteral("LEFT([Laufendenummer], 4) = '123 '")), QList<qlonglong>{123});
+        EXPECT_EQ(found(rs, QStringLiteral("LEFT([Laufendenummer], 5) = '1234 '")), QList<qlonglong>{1234});
+        EXPECT_TRUE(found(rs, QStringLiteral("LEFT([Laufendenummer], 5) = '0123 '")).isEmpty());
+        EXPECT_TRUE(found(rs, QStringLiteral("LEFT([Laufendenummer], 4) = '-123 '")).isEmpty());
+        EXPECT_TRUE(found(rs, QStringLiteral("LEFT([Laufendenummer], 5) = '1301 '")).isEmpty());
+        rs->FindLast(QStringLiteral("LEFT([Laufendenummer], 4) = '123 '"));
+        ASSERT_FALSE(rs->NoMatch());
+        EXPECT_EQ(rs->Fields(QStringLiteral("Laufendenummer")).Value().toLongLong(), 123);
+        rs->FindNext(QStringLiteral("LEFT([Laufendenummer], 4) = '999 '"));
+        EXPECT_FALSE(rs->NoMatch());
+        rs->FindNext(QStringLiteral("LEFT([Laufendenummer], 4) = '123 '"));
+        EXPECT_TRUE(rs->NoMatch()) << "each card once";
+        EXPECT_EQ(rs->Fields(QStringLiteral("Laufendenummer")).Value().toLongLong(), 999);
+    }
+    auto filtered = db->createDynaset(QStringLiteral("Adressenstamm"));
+    filtered->Filter = QStringLiteral("LEFT([Laufendenummer], 5) = '1234 ' OR LEFT([Laufendenummer], 4) = '12 '");
+    auto two = filtered->createDynaset();
+    EXPECT_EQ(two->RecordCount(), 2);
+    EXPECT_EQ(found(two, QStringLiteral("LEFT([Laufendenummer], 4) = '123 '")), QList<qlonglong>{});
+    EXPECT_EQ(found(two, QStringLiteral("LEFT([Laufendenummer], 3) = '12 '")), QList<qlonglong>{12});
+}
+
 TEST_F(Find, CriteriaOfTheSearches)
 {
     EXPECT_EQ(found(QStringLiteral("[Typ] like '?1?????" "'")), (QList<qlonglong>{12, 77})) << "a Null Typ is skipped";
