@@ -75,6 +75,9 @@ struct Merkkartelle {
     int NeuerEintrag = 0;          // -1 while a new card is open
     QByteArray Lesezeichen;        // bookmark taken when an edit starts
     QString GesuchteNummer;        // the running number to find again after a save
+    // The typing slot of the mask that last got the focus ("Hauptmaske.feld(4)"); the cut,
+    // copy and paste buttons act on it, since clicking them takes the focus away from it.
+    QString Fokusfeld;
 
     // --- the search state shared by the quick and the full search ---------------------------
     QString Suchtext;

@@ -1,6 +1,7 @@
 #include "card/card_cursor.h"
 
 #include "card/app_state.h"
+#include "card/edit_clipboard.h"
 #include "card/mask_transfer.h"
 #include "card/notice.h"
 #include "platform/store.h"
@@ -324,8 +325,10 @@ void Command3D8_Click(Merkkartelle& app)
 void Command3D24_Click(Merkkartelle& app)
 {
     // In the edit states this button copies text; the order is chosen while browsing.
-    if (bearbeitungOffen(app))
+    if (bearbeitungOffen(app)) {
+        Kopieren(app);
         return;
+    }
     showForm(app, app.Form3);
 }
 

@@ -93,6 +93,14 @@ Platz platz(Merkkartelle& app, Schreibfeld art, int index)
 
 QString groesseText(int groesse) { return QString::number(groesse); }
 
+// The path of a typing slot as the event table names it: "Hauptmaske.feld(4)".
+QString schreibfeldPfad(Schreibfeld art, int index)
+{
+    static const char* const namen[] = {"feld", "feldbank", "feldnum", "Partido", "prog", "Bemerkung"};
+    const QString name = QStringLiteral("Hauptmaske.") + QString::fromLatin1(namen[int(art)]);
+    return index < 0 ? name : name + QStringLiteral("(%1)").arg(index);
+}
+
 }  // namespace
 
 QString SchreibfeldSpalte(Schreibfeld art, int index)
@@ -221,6 +229,7 @@ void SchreibfeldGotFocus(Merkkartelle& app, Schreibfeld art, int index)
 {
     auto& m = app.Hauptmaske;
     const auto& einstellungen = app.config;
+    app.Fokusfeld = schreibfeldPfad(art, index);
     // Label10 tells the cut, copy and paste of the dual buttons which slot they act on.
     if (art == Schreibfeld::feld)
         m.Label10.Caption = QString::number(index);
@@ -282,6 +291,9 @@ void registerFieldCheckHandlers(HandlerTable& table)
         if (f.fokus)
             table.on(main, control, QStringLiteral("GotFocus"),
                      [art](Merkkartelle& app, EventArgs& args) { SchreibfeldGotFocus(app, art, args.Index); });
+        else  // no colours, but the notes can still be cut from and pasted into
+            table.on(main, control, QStringLiteral("GotFocus"),
+                     [art](Merkkartelle& app, EventArgs& args) { app.Fokusfeld = schreibfeldPfad(art, args.Index); });
     }
     table.on(main, QStringLiteral("feld"), QStringLiteral("DblClick"), feld_DblClick);
 }

@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "card/card_cursor.h"
+#include "card/edit_clipboard.h"
 #include "card/field_checks.h"
 #include "card/key_map.h"
 #include "card/screen_guard.h"
@@ -384,6 +385,7 @@ void registerMainWindowHandlers(HandlerTable& table)
         table.on(main, control, mouseMove,
                  [control](Merkkartelle& app, EventArgs& args) { HinweisZeigen(app, control, args.Index); });
 
+    registerEditClipboardHandlers(table);
     registerFieldCheckHandlers(table);
     registerScreenGuardHandlers(table);
 }

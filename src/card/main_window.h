@@ -64,7 +64,7 @@ void Hauptmaske_MouseMove(Merkkartelle& app);
 void Hauptmaske_Resize(Merkkartelle& app);
 
 // Every handler of the main window's behaviour: panels, hints, notes, size, keys, typing
-// slots, clock and screen guard.
+// slots, the dual buttons' edit actions, clock and screen guard.
 void registerMainWindowHandlers(HandlerTable& table);
 
 }  // namespace mk

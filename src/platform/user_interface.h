@@ -137,6 +137,9 @@ public:
     virtual double Shell(const QString& commandLine, int windowStyle) = 0;
     // The program ended (End): the last thing before the unwinding.
     virtual void programEnded() {}
+    // The clipboard's text, for the cut, copy and paste buttons of the mask.
+    virtual QString clipboardText() { return {}; }
+    virtual void setClipboardText(const QString&) {}
 };
 
 constexpr int vbNormalFocus = 1;
@@ -223,6 +226,10 @@ public:
     bool playSound(const QString& file, int flags) override;
     double Shell(const QString& commandLine, int windowStyle) override;
     void programEnded() override;
+    // Kept in memory: tests and scripts see what was cut or copied without a desktop.
+    QString clipboard;
+    QString clipboardText() override { return clipboard; }
+    void setClipboardText(const QString& text) override { clipboard = text; }
 
 private:
     struct FileAnswer {

@@ -71,8 +71,12 @@ QWidget* toolRow(ViewBuilder& b)
     h->addWidget(separator(row));
     // In browse state these four are selection, order, export and labels; editing swaps them
     // to cut, copy, paste and picture (their pictures come from the state).
-    for (const char* name : {"Command3D23", "Command3D24", "Command3D25", "Command3D13"})
-        h->addWidget(iconButton(b, QString::fromLatin1(name), -1, QString(), 32));
+    // They take no focus: a slot losing it would drop its selection before cut or copy.
+    for (const char* name : {"Command3D23", "Command3D24", "Command3D25", "Command3D13"}) {
+        QAbstractButton* button = iconButton(b, QString::fromLatin1(name), -1, QString(), 32);
+        button->setFocusPolicy(Qt::NoFocus);
+        h->addWidget(button);
+    }
     h->addWidget(separator(row));
     auto* letters = b.make<QAbstractButton>(QStringLiteral("Command3D8"));
     letters->setIcon(bundledIcon(QStringLiteral("labels")));

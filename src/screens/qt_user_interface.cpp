@@ -8,12 +8,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QGuiApplication>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -360,6 +362,16 @@ double QtUserInterface::Shell(const QString& commandLine, int)
     if (!QProcess::startDetached(program, args, QString(), &pid))
         throw RuntimeError(err::FileNotFound, QStringLiteral("File not found"));
     return double(pid);
+}
+
+QString QtUserInterface::clipboardText()
+{
+    return QGuiApplication::clipboard()->text();
+}
+
+void QtUserInterface::setClipboardText(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 void QtUserInterface::programEnded()

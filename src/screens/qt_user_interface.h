@@ -59,6 +59,8 @@ public:
     bool playSound(const QString& file, int flags) override;
     double Shell(const QString& commandLine, int windowStyle) override;
     void programEnded() override;
+    QString clipboardText() override;
+    void setClipboardText(const QString& text) override;
 
 private:
     struct ModalLoop {

@@ -3,6 +3,8 @@
 
 #include "screens_fixture.h"
 
+#include "card/edit_clipboard.h"
+#include "card/field_checks.h"
 #include "screens/conversions.h"
 
 #include <QAbstractButton>
@@ -396,6 +398,36 @@ TEST(Conversions, ColoursKeysAndFilters)
               (QStringList{"Datenbank (*.mdb)", "Alle Dateien (*)"}));
     EXPECT_EQ(qtNameFilters(QStringLiteral("Bilder|*.bmp;*.jpg")), QStringList{"Bilder (*.bmp *.jpg)"});
     EXPECT_TRUE(qtNameFilters(QString()).isEmpty());
+}
+
+TEST_F(BinderTest, TheDualButtonsCutAndPasteOnTheSlotThatHadTheFocus)
+{
+    registerFieldCheckHandlers(app.handlers);
+    registerEditClipboardHandlers(app.handlers);
+    binder.run([&] {
+        app.Hauptmaske.AdresseÄndern.Caption = QStringLiteral("OK");
+        app.Hauptmaske.feld[4].Text = QStringLiteral("Mustermann");
+        app.Hauptmaske.feld[5].Text = QStringLiteral("Erika");
+    });
+    QWidget* window = binder.window("Hauptmaske");
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+
+    // The buttons take no focus, so the slot keeps its selection until the click runs.
+    auto* nachname = widget<QLineEdit>(QStringLiteral("Hauptmaske.feld(4)"));
+    nachname->setFocus(Qt::MouseFocusReason);
+    nachname->setSelection(6, 4);
+    QTest::mouseClick(widget<QAbstractButton>(QStringLiteral("Hauptmaske.Command3D23")), Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text(), "mann");
+    EXPECT_EQ(nachname->text(), "Muster");
+    EXPECT_EQ(app.Hauptmaske.feld[4].Text, "Muster");
+
+    auto* vorname = widget<QLineEdit>(QStringLiteral("Hauptmaske.feld(5)"));
+    vorname->setFocus(Qt::MouseFocusReason);
+    vorname->setCursorPosition(0);
+    QTest::mouseClick(widget<QAbstractButton>(QStringLiteral("Hauptmaske.Command3D25")), Qt::LeftButton);
+    EXPECT_EQ(vorname->text(), "mannErika");
+    EXPECT_EQ(app.Hauptmaske.feld[5].Text, "mannErika");
 }
 
 }  // namespace
