@@ -160,8 +160,14 @@ void Start(Merkkartelle& app)
 void KartensitzungOeffnen(Merkkartelle& app, bool nurLesen)
 {
     const QString pfad = datenbankPfad(app);
-    // Read-only is exclusive as well; writing shares the file.
-    underIgnoredErrors([&] { app.Kartendatenbank = Database::open(pfad, nurLesen, nurLesen); });
+    // Read-only is exclusive as well; writing shares the file. Failures stay silent, but for
+    // a file in the old Jet format: an empty mask would hide that it must be converted first.
+    try {
+        app.Kartendatenbank = Database::open(pfad, nurLesen, nurLesen);
+    } catch (const RuntimeError& fehler) {
+        if (fehler.Number == err::JetFormat)
+            app.ui.MsgBox(fehler.Description, vbExclamation, QStringLiteral("Datenbank öffnen"));
+    }
     underIgnoredErrors([&] { app.Kartensatz = datenbank(app.Kartendatenbank).createDynaset(app.Tabellenname); });
     underIgnoredErrors([&] { app.Zweitdatenbank = Database::open(pfad, nurLesen, nurLesen); });
     underIgnoredErrors([&] { app.Zweitsatz = datenbank(app.Zweitdatenbank).createDynaset(app.Tabellenname); });

@@ -194,5 +194,16 @@ TEST_F(SessionTest, TheCaptionCutsADriveLetterAndKeepsAPathWithout)
     EXPECT_EQ(HauptmaskeTitel(app()), "/home/anna/Karten  -  merkkartelle.mdb  -  Adressenstamm");
 }
 
+TEST_F(SessionTest, AJetFileIsRefusedWithAWordAndTheMaskStaysEmpty)
+{
+    QFile::remove(defaultDatabase());
+    ASSERT_TRUE(QFile::copy(QStringLiteral(MK_SHARED_TESTDATA "/jet/jet4-sample.mdb"), defaultDatabase()));
+    start();
+    ASSERT_EQ(ui().messageBoxes().size(), 1u);
+    EXPECT_TRUE(ui().messageBoxes()[0].prompt.contains(QStringLiteral("Jet-Datenbank")));
+    EXPECT_EQ(ui().messageBoxes()[0].title, "Datenbank öffnen");
+    EXPECT_EQ(mask().Label8.Caption, "Eintrag 0 von 0 ");
+}
+
 }  // namespace
 }  // namespace mk::test
