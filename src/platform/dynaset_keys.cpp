@@ -10,44 +10,7 @@
 
 namespace mk::store {
 
-// ---- binding and reading values ---------------------------------------------------------
-
-void bindValue(sqlite3_stmt* stmt, int index, const QVariant& value)
-{
-    if (!value.isValid() || value.isNull()) {
-        sqlite3_bind_null(stmt, index);
-        return;
-    }
-    switch (value.typeId()) {
-    case QMetaType::Bool: sqlite3_bind_int(stmt, index, value.toBool() ? 1 : 0); return;
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::LongLong:
-    case QMetaType::Short:
-    case QMetaType::Char: sqlite3_bind_int64(stmt, index, value.toLongLong()); return;
-    case QMetaType::ULongLong:
-    case QMetaType::ULong: sqlite3_bind_int64(stmt, index, qint64(value.toULongLong())); return;
-    case QMetaType::Double:
-    case QMetaType::Float: sqlite3_bind_double(stmt, index, value.toDouble()); return;
-    case QMetaType::QByteArray: {
-        const QByteArray bytes = value.toByteArray();
-        sqlite3_bind_blob(stmt, index, bytes.constData(), int(bytes.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    default: {
-        const QByteArray text = value.toString().toUtf8();
-        sqlite3_bind_text(stmt, index, text.constData(), int(text.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    }
-}
-
-void bindAll(sqlite3_stmt* stmt, const std::vector<QVariant>& params, int first)
-{
-    for (std::size_t i = 0; i < params.size(); ++i)
-        bindValue(stmt, first + int(i), params[i]);
-}
+// ---- reading values ---------------------------------------------------------------------
 
 QVariant columnValue(sqlite3_stmt* stmt, int column)
 {
@@ -150,7 +113,7 @@ public:
         const int rc = sqlite3_prepare_v2(conn.handle(), sql.text.c_str(), int(sql.text.size()), &stmt_, nullptr);
         if (rc != SQLITE_OK)
             conn.fail(rc);
-        bindAll(stmt_, sql.params);
+        jet::bindParameters(stmt_, sql.params);
     }
     ~Query() { sqlite3_finalize(stmt_); }
     Query(const Query&) = delete;
@@ -443,7 +406,7 @@ bool matches(Connection& conn, const Source& source, KeySet& keys, MatchSet& set
         const std::string text = "SELECT 1 FROM " + source.table->quotedName + " WHERE rowid = ?"
             + std::to_string(set.sql.params.size() + 1) + " AND (" + set.sql.text + ")";
         sqlite3_stmt* stmt = conn.statement(text);
-        bindAll(stmt, set.sql.params);
+        jet::bindParameters(stmt, set.sql.params);
         sqlite3_bind_int64(stmt, int(set.sql.params.size() + 1), keys.keys[i]);
         const int rc = sqlite3_step(stmt);
         sqlite3_reset(stmt);

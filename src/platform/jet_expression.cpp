@@ -718,37 +718,40 @@ Sql toSql(const std::vector<SortTerm>& sort, const ColumnResolver& resolve, int 
     return out;
 }
 
+void bindValue(sqlite3_stmt* stmt, int index, const QVariant& v)
+{
+    switch (v.isValid() && !v.isNull() ? v.typeId() : QMetaType::UnknownType) {
+    case QMetaType::UnknownType: sqlite3_bind_null(stmt, index); break;
+    case QMetaType::Bool: sqlite3_bind_int64(stmt, index, v.toBool() ? 1 : 0); break;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::LongLong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Char: sqlite3_bind_int64(stmt, index, v.toLongLong()); break;
+    case QMetaType::ULongLong:
+    case QMetaType::ULong: sqlite3_bind_int64(stmt, index, qint64(v.toULongLong())); break;
+    case QMetaType::Double:
+    case QMetaType::Float: sqlite3_bind_double(stmt, index, v.toDouble()); break;
+    case QMetaType::QByteArray: {
+        const QByteArray b = v.toByteArray();
+        sqlite3_bind_blob64(stmt, index, b.constData(), sqlite3_uint64(b.size()), SQLITE_TRANSIENT);
+        break;
+    }
+    default: {
+        const QByteArray b = v.toString().toUtf8();
+        sqlite3_bind_text64(stmt, index, b.constData(), sqlite3_uint64(b.size()), SQLITE_TRANSIENT, SQLITE_UTF8);
+        break;
+    }
+    }
+}
+
 void bindParameters(sqlite3_stmt* stmt, const std::vector<QVariant>& params, int firstParam)
 {
     int index = firstParam;
-    for (const QVariant& v : params) {
-        switch (v.isValid() && !v.isNull() ? v.typeId() : QMetaType::UnknownType) {
-        case QMetaType::UnknownType: sqlite3_bind_null(stmt, index); break;
-        case QMetaType::Bool: sqlite3_bind_int64(stmt, index, v.toBool() ? 1 : 0); break;
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::Long:
-        case QMetaType::LongLong:
-        case QMetaType::Short:
-        case QMetaType::UShort: sqlite3_bind_int64(stmt, index, v.toLongLong()); break;
-        case QMetaType::ULongLong:
-        case QMetaType::ULong:
-        case QMetaType::Double:
-        case QMetaType::Float: sqlite3_bind_double(stmt, index, v.toDouble()); break;
-        case QMetaType::QByteArray: {
-            const QByteArray b = v.toByteArray();
-            sqlite3_bind_blob64(stmt, index, b.constData(), sqlite3_uint64(b.size()), SQLITE_TRANSIENT);
-            break;
-        }
-        default: {
-            const QByteArray b = v.toString().toUtf8();
-            sqlite3_bind_text64(stmt, index, b.constData(), sqlite3_uint64(b.size()), SQLITE_TRANSIENT,
-                                SQLITE_UTF8);
-            break;
-        }
-        }
-        ++index;
-    }
+    for (const QVariant& v : params)
+        bindValue(stmt, index++, v);
 }
 
 }  // namespace mk::jet

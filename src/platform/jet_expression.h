@@ -60,6 +60,8 @@ Sql toSql(const std::vector<SortTerm>& sort, const ColumnResolver& resolve, int 
 
 // Binds params to ?firstParam, ?firstParam+1, …: invalid QVariant as Null, bool as 1/0,
 // integers as integers, double as real, QByteArray as blob, everything else as text.
+// Binds one value (an invalid QVariant binds Null), and a list of them from firstParam on.
+void bindValue(sqlite3_stmt* stmt, int index, const QVariant& value);
 void bindParameters(sqlite3_stmt* stmt, const std::vector<QVariant>& params, int firstParam = 1);
 
 // Registers on a connection what the translated SQL calls: the collation "JETTEXT" and the

@@ -216,7 +216,7 @@ void insertRow(Recordset::Impl& d)
         ? "INSERT INTO " + table.quotedName + " DEFAULT VALUES"
         : "INSERT INTO " + table.quotedName + " (" + columns + ") VALUES (" + places + ")";
     sqlite3_stmt* stmt = conn.statement(sql);
-    store::bindAll(stmt, params);
+    jet::bindParameters(stmt, params);
     store::runToEnd(conn, stmt);
     d.keys->keys.push_back(sqlite3_last_insert_rowid(conn.db));
 }
@@ -241,7 +241,7 @@ void updateRow(Recordset::Impl& d)
     params.push_back(qlonglong(d.keys->keys[std::size_t(d.index)]));
     sqlite3_stmt* stmt = conn.statement("UPDATE " + table.quotedName + " SET " + assignments
                                         + " WHERE rowid = ?" + std::to_string(params.size()));
-    store::bindAll(stmt, params);
+    jet::bindParameters(stmt, params);
     store::runToEnd(conn, stmt);
     if (sqlite3_changes(conn.db) == 0)
         noCurrentRecord();

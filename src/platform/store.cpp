@@ -271,7 +271,7 @@ std::shared_ptr<const TableInfo> Connection::table(const QString& name)
 
     sqlite3_stmt* find = statement("SELECT name FROM sqlite_master WHERE type IN ('table','view') "
                                    "AND name = ?1 COLLATE NOCASE");
-    bindValue(find, 1, name);
+    jet::bindValue(find, 1, name);
     const int rc = sqlite3_step(find);
     if (rc != SQLITE_ROW && rc != SQLITE_DONE)
         fail(rc);
@@ -284,7 +284,7 @@ std::shared_ptr<const TableInfo> Connection::table(const QString& name)
     info->quotedName = quoteName(info->name);
 
     sqlite3_stmt* columns = statement("SELECT name, type, pk FROM pragma_table_info(?1)");
-    bindValue(columns, 1, info->name);
+    jet::bindValue(columns, 1, info->name);
     std::string list;
     while (sqlite3_step(columns) == SQLITE_ROW) {
         const QString column = columnValue(columns, 0).toString();

@@ -73,8 +73,6 @@ struct Connection {
 std::string quoteName(const QString& name);
 // Runs a statement to its end, raising on an error.
 void runToEnd(Connection& conn, sqlite3_stmt* stmt);
-void bindValue(sqlite3_stmt* stmt, int index, const QVariant& value);
-void bindAll(sqlite3_stmt* stmt, const std::vector<QVariant>& params, int first = 1);
 QVariant columnValue(sqlite3_stmt* stmt, int column);
 // Appends b, translated to number its placeholders from nextParam(a), to a.
 void appendSql(jet::Sql& a, const jet::Sql& b);
