@@ -56,6 +56,15 @@ void registerAllHandlers(HandlerTable& table)
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)
 {
     const ControlRef ref = app.forms.control(path);
+    // Kept before the handler runs: a GotFocus handler that moves the focus on must see
+    // its own control as the one that loses it.
+    if (ref.control) {
+        if (event.compare(QLatin1String("GotFocus"), Qt::CaseInsensitive) == 0)
+            app.Fokus = ref.path();
+        else if (event.compare(QLatin1String("LostFocus"), Qt::CaseInsensitive) == 0
+                 && app.Fokus.compare(ref.path(), Qt::CaseInsensitive) == 0)
+            app.Fokus.clear();
+    }
     const Handler* handler = app.handlers.find(ref.form, ref.name, event);
     if (!handler)
         return false;

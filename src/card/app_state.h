@@ -78,6 +78,11 @@ struct Merkkartelle {
     // The typing slot of the mask that last got the focus ("Hauptmaske.feld(4)"); the cut,
     // copy and paste buttons act on it, since clicking them takes the focus away from it.
     QString Fokusfeld;
+    // The control that has the focus as far as the system knows (set when its GotFocus is
+    // raised, cleared by its LostFocus), and the focus a handler asked for, which the screens
+    // carry out and clear after the handler; both "Form.Control(i)". See card/focus.h.
+    QString Fokus;
+    QString FokusAnfrage;
 
     // --- the search state shared by the quick and the full search ---------------------------
     QString Suchtext;

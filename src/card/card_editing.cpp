@@ -1,6 +1,7 @@
 #include "card/card_editing.h"
 
 #include "card/app_state.h"
+#include "card/focus.h"
 #include "card/card_copy.h"
 #include "card/card_cursor.h"
 #include "card/deleted_cards.h"
@@ -315,6 +316,7 @@ void AenderungBeginnen(Merkkartelle& app)
     MaskeSchalten(app);
     suchenFreigeben(app, false);
     m.NeueAdresse.Enabled = false;
+    SetFocus(app, QStringLiteral("Hauptmaske.feld(0)"));
 
     schnelleingabeZeigen(app, true);
 }
@@ -415,6 +417,8 @@ void AktivFarbe(Merkkartelle& app)
     app.Hauptmaske.LaufendeNummer.ForeColor = colour::Red;
     if (app.config.SSCheck7.checked())
         app.ui.playSound(joinPath(app.Arbeitsverzeichnis, QStringLiteral("pleaseedit.wav")), kSndAsync);
+    // The pointer to the button that opens the card for typing.
+    SetFocus(app, QStringLiteral("Hauptmaske.AdresseÄndern"));
 }
 
 void MaskeSchalten(Merkkartelle& app)
@@ -486,6 +490,8 @@ void NeuenEintragOeffnen(Merkkartelle& app)
     });
 
     underIgnoredErrors([&] { kartensatz(app).AddNew(); });
+    // Typing starts in the first slot.
+    SetFocus(app, QStringLiteral("Hauptmaske.feld(0)"));
 }
 
 // ---- the buttons -------------------------------------------------------------------------------------
@@ -517,6 +523,7 @@ void NeueAdresseAbbruch_Click(Merkkartelle& app)
     app.NeuerEintrag = 0;
     app.Hauptmaske.NeueAdresse.Caption = kNeuCaption;
     bearbeitungAbbrechen(app);
+    SetFocus(app, QStringLiteral("Hauptmaske.NeueAdresse"));
 }
 
 void AdresseÄndernAbbruch_Click(Merkkartelle& app)

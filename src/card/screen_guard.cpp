@@ -1,6 +1,7 @@
 #include "card/screen_guard.h"
 
 #include "card/app_state.h"
+#include "card/focus.h"
 #include "card/card_cursor.h"
 #include "card/card_editing.h"
 #include "card/main_window.h"
@@ -78,6 +79,7 @@ void BildschutzZeigen(Merkkartelle& app)
     }
     BildschutzEinpassen(app);
     PanelsSchliessen(app);
+    SetFocus(app, QStringLiteral("Hauptmaske.Text1"));
     m.Text1.SelStart = 0;
     m.Text1.SelLength = int(m.Text1.Text.size());
 }

@@ -120,6 +120,7 @@ private:
     void pushScrollBar(Binding& binding, Control& control, QWidget* widget);
     void pushMenuItem(Binding& binding, Control& control);
     void pushStacks(View& view);
+    void applyFocusRequest();
     void syncTimers();
 
     // input -> state, then the handler

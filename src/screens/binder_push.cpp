@@ -18,6 +18,7 @@
 #include <QTableWidget>
 #include <QTextEdit>
 #include <QTimer>
+#include <utility>
 
 namespace mk {
 
@@ -62,11 +63,23 @@ void Binder::refresh()
     ++pushing_;
     for (const auto& view : views_)
         pushView(*view);
+    applyFocusRequest();
     --pushing_;
     refreshing_ = false;
     syncTimers();
     if (afterRefresh)
         afterRefresh();
+}
+
+// A focus a handler asked for. Its GotFocus and LostFocus have run already, so the focus
+// events this causes are our own doing and stay unreported (pushing_ is set).
+void Binder::applyFocusRequest()
+{
+    if (app_.FokusAnfrage.isEmpty())
+        return;
+    const QString path = std::exchange(app_.FokusAnfrage, QString());
+    if (QWidget* w = widget(path))
+        w->setFocus(Qt::OtherFocusReason);
 }
 
 void Binder::pushView(View& view)

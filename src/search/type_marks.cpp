@@ -1,6 +1,7 @@
 #include "search/type_marks.h"
 
 #include "card/app_state.h"
+#include "card/focus.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
 #include "platform/paths.h"
@@ -151,8 +152,9 @@ void Typenliste_GotFocus(Merkkartelle& app, int index)
 void Typenliste_LostFocus(Merkkartelle& app, int index)
 {
     app.Hauptmaske.Typenliste[index].ForeColor = colour::Black;
-    // Leaving the seventh box should send the focus on to feld(0). The forms' state holds no
-    // focus that a handler could move, so that step waits for a focus service.
+    // Leaving the last type box leads on to the first card field.
+    if (index == 6)
+        underIgnoredErrors([&] { SetFocus(app, QStringLiteral("Hauptmaske.feld(0)")); });
 }
 
 // ---- several types for the list ---------------------------------------------------------------

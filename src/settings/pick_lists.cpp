@@ -1,6 +1,7 @@
 #include "settings/pick_lists.h"
 
 #include "card/app_state.h"
+#include "card/focus.h"
 #include "card/card_cursor.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -170,6 +171,8 @@ void AuswahlUebernehmen(Merkkartelle& app)
         maske.feld[i].Text = groesse > 0 ? text.left(groesse) : text;
     }
     hideForm(app, form);
+    // Back to the field the list was opened for, to type on.
+    SetFocus(app, QStringLiteral("Hauptmaske.feld(%1)").arg(slot));
 }
 
 // ---- handlers ---------------------------------------------------------------------------------

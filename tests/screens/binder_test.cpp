@@ -5,6 +5,7 @@
 
 #include "card/edit_clipboard.h"
 #include "card/field_checks.h"
+#include "card/focus.h"
 #include "screens/conversions.h"
 
 #include <QAbstractButton>
@@ -21,6 +22,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <vector>
 
 namespace mk::test {
 namespace {
@@ -428,6 +430,31 @@ TEST_F(BinderTest, TheDualButtonsCutAndPasteOnTheSlotThatHadTheFocus)
     QTest::mouseClick(widget<QAbstractButton>(QStringLiteral("Hauptmaske.Command3D25")), Qt::LeftButton);
     EXPECT_EQ(vorname->text(), "mannErika");
     EXPECT_EQ(app.Hauptmaske.feld[5].Text, "mannErika");
+}
+
+TEST_F(BinderTest, AHandlerThatMovesTheFocusPutsItIntoThatWidgetWithoutASecondGotFocus)
+{
+    std::vector<int> gotFocus;
+    app.handlers.on("Hauptmaske", "feld", "GotFocus", [&](Merkkartelle&, EventArgs& args) { gotFocus.push_back(args.Index); });
+    app.handlers.on("Hauptmaske", "NeueAdresse", "Click",
+                    [](Merkkartelle& a, EventArgs&) { SetFocus(a, QStringLiteral("Hauptmaske.feld(7)")); });
+    QWidget* window = binder.window("Hauptmaske");
+    window->activateWindow();
+    QApplication::setActiveWindow(window);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    auto* vorher = widget<QLineEdit>(QStringLiteral("Hauptmaske.feld(2)"));
+    vorher->setFocus(Qt::MouseFocusReason);
+    ASSERT_EQ(QApplication::focusWidget(), vorher);
+    ASSERT_EQ(app.Fokus, QStringLiteral("Hauptmaske.feld(2)"));
+
+    ASSERT_TRUE(binder.fire(QStringLiteral("Hauptmaske.NeueAdresse"), QStringLiteral("Click")));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), widget<QLineEdit>(QStringLiteral("Hauptmaske.feld(7)")));
+    EXPECT_TRUE(app.FokusAnfrage.isEmpty());
+    EXPECT_EQ(app.Fokus, QStringLiteral("Hauptmaske.feld(7)"));
+    // One GotFocus for the user's click into feld(2), one for the move: the widget's own
+    // focus event during the move is not reported a second time.
+    EXPECT_EQ(gotFocus, (std::vector<int>{2, 7}));
 }
 
 }  // namespace
