@@ -16,12 +16,6 @@
 
 namespace mk {
 
-namespace err {
-constexpr int BadFileName = 52;
-constexpr int PathFileAccess = 75;  // MkDir on an existing folder, a failed copy or rename
-constexpr int TypeMismatch = 13;    // a text that is no boolean
-}  // namespace err
-
 // Raises RuntimeError(number) with the runtime's German description of that number.
 [[noreturn]] void raiseFileError(int number);
 QString fileErrorDescription(int number);

@@ -40,7 +40,10 @@ bool underIgnoredErrors(Step&& step)
 
 // Error numbers the system and its tests rely on.
 namespace err {
+constexpr int TypeMismatch = 13;        // a text that is no boolean
+constexpr int BadFileName = 52;
 constexpr int FileNotFound = 53;        // Dir/Kill/Name/FileLen on a missing file
+constexpr int PathFileAccess = 75;      // MkDir on an existing folder, a failed copy or rename
 constexpr int FileAlreadyExists = 58;   // Name onto an existing file
 constexpr int PathNotFound = 76;        // a folder that does not exist
 constexpr int PermissionDenied = 70;
