@@ -119,13 +119,21 @@ void Command3_Click(M& app)  // "Schrift"
     });
 }
 
-void Command4_Click(M& app)  // "Öffnen"
+// The common dialog of config, set up for a settings file in the working directory.
+FileDialog& einstellungsDialog(M& app, const QString& filter, const QString& title)
 {
     FileDialog& dialog = app.config.CMDialog1;
     dialog.InitDir = app.Arbeitsverzeichnis;
     dialog.FileName = kSettingsFileName;
-    dialog.Filter = QStringLiteral("Einstellungen (*.cfg)|*.cfg|");
-    dialog.DialogTitle = QStringLiteral("Einstellungsdatei öffnen");
+    dialog.Filter = filter;
+    dialog.DialogTitle = title;
+    return dialog;
+}
+
+void Command4_Click(M& app)  // "Öffnen"
+{
+    FileDialog& dialog = einstellungsDialog(app, QStringLiteral("Einstellungen (*.cfg)|*.cfg|"),
+                                            QStringLiteral("Einstellungsdatei öffnen"));
     const FileChoice choice = app.ui.ShowOpen(dialog);
     if (choice.cancelled)
         return;
@@ -138,11 +146,8 @@ void Command4_Click(M& app)  // "Öffnen"
 
 void Command5_Click(M& app)  // "Sichern"
 {
-    FileDialog& dialog = app.config.CMDialog1;
-    dialog.InitDir = app.Arbeitsverzeichnis;
-    dialog.FileName = kSettingsFileName;
-    dialog.Filter = QStringLiteral("Einstellung (*.cfg)|*.cfg|");
-    dialog.DialogTitle = QStringLiteral("Einstellungsnamen auswählen zum speichern");
+    FileDialog& dialog = einstellungsDialog(app, QStringLiteral("Einstellung (*.cfg)|*.cfg|"),
+                                            QStringLiteral("Einstellungsnamen auswählen zum speichern"));
     const FileChoice choice = app.ui.ShowSave(dialog);
     if (choice.cancelled)
         return;

@@ -4,6 +4,7 @@
 #include "settings/field_naming.h"
 
 #include "card/app_state.h"
+#include "support/file_bytes.h"
 #include "support/scripted_system.h"
 
 #include <QFile>
@@ -14,18 +15,8 @@
 namespace mk {
 namespace {
 
-QByteArray readBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
+using test::readBytes;
+using test::writeBytes;
 
 // A .den file whose line k names label k-1 "Name k-1:".
 QByteArray namingFile(int lines = 25)

@@ -5,6 +5,7 @@
 
 #include "card/app_state.h"
 #include "platform/text_files.h"
+#include "support/file_bytes.h"
 #include "support/scripted_system.h"
 
 #include <QDir>
@@ -16,18 +17,8 @@
 namespace mk {
 namespace {
 
-QByteArray readBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
+using test::readBytes;
+using test::writeBytes;
 
 QList<QByteArray> linesOf(const QByteArray& bytes)
 {
