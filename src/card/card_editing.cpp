@@ -179,6 +179,26 @@ void zweitsatzErneuern(Merkkartelle& app)
     });
 }
 
+namespace {
+
+// The record buffer into the file. A save that fails (another program changed the card
+// meanwhile, the disk is full, the file is held) keeps the mask open with everything typed
+// and says why: the user can try again or cancel, and nothing is lost without a word.
+bool satzSpeichern(Merkkartelle& app)
+{
+    try {
+        kartensatz(app).Update();
+        return true;
+    } catch (const RuntimeError& fehler) {
+        app.ui.MsgBox(QStringLiteral("Der Eintrag konnte nicht gespeichert werden:") + kZeilenumbruch + QStringLiteral("   ")
+                          + fehler.Description + kZeilenumbruch + QStringLiteral("Die Eingaben bleiben in der Maske."),
+                      vbOKOnly + vbExclamation, QStringLiteral("Speichern"));
+        return false;
+    }
+}
+
+}  // namespace
+
 void NeuenEintragSpeichern(Merkkartelle& app)
 {
     auto& m = app.Hauptmaske;
@@ -191,7 +211,7 @@ void NeuenEintragSpeichern(Merkkartelle& app)
 
     m.recdate.Caption = m.Datum.Caption = DatumText(app);
     m.rectime.Caption = m.Zeit.Caption = ZeitText(app);
-    if (!maskeSchreiben(app))
+    if (!maskeSchreiben(app) || !satzSpeichern(app))
         return;
 
     m.NeueAdresse.Enabled = false;
@@ -199,7 +219,6 @@ void NeuenEintragSpeichern(Merkkartelle& app)
     m.NeueAdresse.Caption = kNeuCaption;
 
     // The counter gives the new card the highest number: the last row after Update is it.
-    underIgnoredErrors([&] { kartensatz(app).Update(); });
     underIgnoredErrors([&] { kartensatz(app).MoveLast(); });
     zweitsatzErneuern(app);
     underIgnoredErrors([&] { app.GesuchteNummer = kartensatz(app).Fields(QStringLiteral("Laufendenummer")).text(); });
@@ -226,13 +245,12 @@ void AenderungSpeichern(Merkkartelle& app)
     // The creation stamps stay as the card got them.
     m.Datum.Caption = DatumText(app);
     m.Zeit.Caption = ZeitText(app);
-    if (!maskeSchreiben(app))
+    if (!maskeSchreiben(app) || !satzSpeichern(app))
         return;
 
     m.AdresseÄndern.Enabled = false;
     m.AdresseÄndern.Caption = kBearbeitenCaption;
 
-    underIgnoredErrors([&] { kartensatz(app).Update(); });
     zweitsatzErneuern(app);
 
     if (!KartensatzNachSpeichern(app, app.GesuchteNummer)) {

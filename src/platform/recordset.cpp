@@ -42,6 +42,29 @@ void dropEdit(Recordset::Impl& d)
     d.mode = EditMode::None;
     d.buffer.clear();
     d.touched.clear();
+    d.original.clear();
+}
+
+// The current row read from the file itself, past every block kept in memory.
+std::vector<QVariant> freshRow(Recordset::Impl& d, store::Connection& conn)
+{
+    const store::TableInfo& table = *d.source.table;
+    sqlite3_stmt* stmt = conn.statement("SELECT " + table.columnList + " FROM " + table.quotedName + " WHERE rowid = ?1");
+    sqlite3_bind_int64(stmt, 1, d.keys->keys[std::size_t(d.index)]);
+    const int rc = sqlite3_step(stmt);
+    std::vector<QVariant> values;
+    if (rc == SQLITE_ROW) {
+        store::RowCopy row;
+        row.take(stmt, int(table.fields.size()));
+        for (std::size_t i = 0; i < table.fields.size(); ++i)
+            values.push_back(row.value(i));
+    }
+    sqlite3_reset(stmt);
+    if (rc != SQLITE_ROW && rc != SQLITE_DONE)
+        conn.fail(rc);
+    if (values.empty())
+        noCurrentRecord();  // deleted meanwhile
+    return values;
 }
 
 void placeAt(Recordset::Impl& d, long index)
@@ -227,6 +250,11 @@ void updateRow(Recordset::Impl& d)
     if (!hasCurrent(d))
         noCurrentRecord();
     const store::TableInfo& table = *d.source.table;
+    // Another program that changed the row since Edit would lose its change to this one.
+    if (!d.original.empty() && freshRow(d, conn) != d.original)
+        raise(err::ChangedMeanwhile,
+              QStringLiteral("Der Eintrag wurde inzwischen von einem anderen Programm geändert; "
+                             "diese Änderung wurde nicht gespeichert."));
     std::string assignments;
     std::vector<QVariant> params;
     for (std::size_t i = 0; i < table.fields.size(); ++i) {
@@ -471,9 +499,10 @@ void Recordset::Edit()
 {
     connectionOf(*d).requireWritable();
     dropEdit(*d);
-    const store::RowCopy& row = currentRow(*d);
-    for (std::size_t i = 0; i < row.cells.size(); ++i)
-        d->buffer.push_back(row.value(i));
+    if (!hasCurrent(*d))
+        noCurrentRecord();
+    d->buffer = freshRow(*d, connectionOf(*d));
+    d->original = d->buffer;
     d->touched.assign(d->buffer.size(), false);
     d->mode = EditMode::Edit;
 }

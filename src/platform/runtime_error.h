@@ -52,6 +52,7 @@ constexpr int FieldTooSmall = 3163;     // text longer than the column's size
 constexpr int NoCurrentRecord = 3021;
 constexpr int ItemNotFound = 3265;      // Fields(name) of a column the table lacks
 constexpr int UpdateWithoutEdit = 3020;
+constexpr int ChangedMeanwhile = 3197;  // another program changed the row since Edit
 constexpr int ReadOnlyDatabase = 3027;
 constexpr int SyntaxInExpression = 3075;
 constexpr int TooFewParameters = 3061;  // a name in an expression that is no column

@@ -173,6 +173,9 @@ struct Recordset::Impl {
     EditMode mode = EditMode::None;
     std::vector<QVariant> buffer;
     std::vector<bool> touched;
+    // The row as it was read when Edit began: Update refuses to write over a change another
+    // program made since.
+    std::vector<QVariant> original;
 
     void placeAtFirst();
 };

@@ -234,6 +234,42 @@ TEST_F(FailedSave, WithoutATypeKeepsTheMaskOpenOnNewAndChange)
     EXPECT_EQ(gespeichert(app.GesuchteNummer, "Typ"), QStringLiteral("0001000"));
 }
 
+TEST_F(FailedSave, AChangeMadeMeanwhileByAnotherProgramIsNotOverwritten)
+{
+    const QString nummer = karte({{"Nachname", QStringLiteral("Adler")}, {"Stadt", QStringLiteral("Köln")}});
+    oeffnen();
+    klick("Hauptmaske.AdresseÄndern");
+
+    // Another program moves the card to Bonn while it is open here.
+    {
+        auto andere = Database::open(pfad)->createDynaset(app.Tabellenname);
+        andere->MoveFirst();
+        andere->Edit();
+        andere->Fields(QStringLiteral("Stadt")).setValue(QStringLiteral("Bonn"));
+        andere->Update();
+    }
+    m.feld[5].Text = QStringLiteral("Anna");
+    klick("Hauptmaske.AdresseÄndern");
+
+    ASSERT_EQ(ui.messageBoxes().size(), 1u);
+    EXPECT_EQ(ui.messageBoxes()[0].title, QStringLiteral("Speichern"));
+    EXPECT_TRUE(ui.messageBoxes()[0].prompt.contains(QStringLiteral("von einem anderen Programm geändert")));
+    EXPECT_EQ(gespeichert(nummer, "Stadt"), QStringLiteral("Bonn"));
+    EXPECT_EQ(gespeichert(nummer, "Vorname"), QString());
+    // The mask stays open with what was typed; a cancel shows the card as it is now.
+    EXPECT_EQ(m.AdresseÄndern.Caption, QStringLiteral("OK"));
+    EXPECT_EQ(m.feld[5].Text, QStringLiteral("Anna"));
+    klick("Hauptmaske.AdresseÄndernAbbruch");
+    EXPECT_EQ(m.feld[10].Text, QStringLiteral("Bonn"));
+
+    // Changed afresh, the card saves.
+    klick("Hauptmaske.AdresseÄndern");
+    m.feld[5].Text = QStringLiteral("Anna");
+    klick("Hauptmaske.AdresseÄndern");
+    EXPECT_EQ(gespeichert(nummer, "Vorname"), QStringLiteral("Anna"));
+    EXPECT_EQ(gespeichert(nummer, "Stadt"), QStringLiteral("Bonn"));
+}
+
 TEST_F(FailedSave, ADuplicateNameStopsOnlyWhileTheOptionIsOn)
 {
     karte({{"Vorname", QStringLiteral("Hans")}, {"Nachname", QStringLiteral("Müller")}});
