@@ -23,6 +23,13 @@ mala::mala()
     Label9.Visible = false;
     Label7.Visible = false;
     Label20.Caption = QStringLiteral("Nome / Sobrenome / Firma");
+    SSCommand1.Caption = QStringLiteral("Drucken");
+    Command3D1.Caption = QStringLiteral("Schliessen");
+    Command3D3.Caption = QStringLiteral("Druckmodus beenden");
+    Command3d4.Caption = QStringLiteral("Etiketten");
+    Command3D2.Visible = false;
+    for (Label* l : {&Label5, &Label15, &Label17, &Label18, &Label19})
+        l->Visible = false;
     nameControls(*this, "mala");
 }
 

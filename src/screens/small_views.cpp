@@ -3,6 +3,7 @@
 #include "screens/cidadefrm_view.h"
 #include "screens/conversions.h"
 #include "screens/form2_view.h"
+#include "screens/printing_views.h"
 #include "screens/settings_views.h"
 #include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
@@ -137,6 +138,18 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildTypenlisteBenutzerdefiniertView(forms);
     if (name == QLatin1String("Cidadefrm"))
         return buildCidadefrmView(forms);
+    if (name == QLatin1String("etiquet"))
+        return buildEtiquetView(forms);
+    if (name == QLatin1String("form4"))
+        return buildForm4View(forms);
+    if (name == QLatin1String("mala"))
+        return buildMalaView(forms);
+    if (name == QLatin1String("malasp"))
+        return buildMalaspView(forms);
+    if (name == QLatin1String("malaview"))
+        return buildMalaviewView(forms);
+    if (name == QLatin1String("Form6"))
+        return buildForm6View(forms);
     return buildGenericView(forms, name);
 }
 
