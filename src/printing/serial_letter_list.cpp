@@ -8,6 +8,7 @@
 #include "printing/print_preview.h"
 #include "search/type_marks.h"
 #include "search/type_naming.h"
+#include "settings/form_places.h"
 
 namespace mk {
 
@@ -54,6 +55,8 @@ const Listenoption kOptionen[29] = {
     {"Passportnummer", "Passportnummer / Vorname-Nachname  / Telefon", {"Passportnummer", "Vorname+Nachname", "Telefon"}},
     {"Postfach", "Postfach / Vorname-Nachname  / Telefon", {"Postfach", "Vorname+Nachname", "Telefon"}},
 };
+
+const Formplatz kListenplatz{52, 53, 54, 55};
 
 int gewaehlteOption(const M& app)
 {
@@ -351,12 +354,7 @@ void mala_Load(M& app)
 {
     auto& f = app.mala;
     const auto slot = [&](int n) { return app.Einstellungsliste[std::size_t(n)]; };
-    if (Val(slot(54)) > 0) {
-        f.Top = int(Val(slot(52)));
-        f.Left = int(Val(slot(53)));
-        f.Height = int(Val(slot(54)));
-        f.Width = int(Val(slot(55)));
-    }
+    FormplatzNehmen(app, f, kListenplatz);
     f.Label7.Caption = slot(83).isEmpty() ? f.Label7.Caption : slot(83);
     for (auto& [i, option] : f.Option3D1) {
         option.Caption = listenSortierspalte(i);
@@ -441,10 +439,7 @@ void Command3D1_Click(M& app)  // close
 {
     auto& f = app.mala;
     auto& e = app.Einstellungsliste;
-    e[52] = QString::number(f.Top);
-    e[53] = QString::number(f.Left);
-    e[54] = QString::number(f.Height);
-    e[55] = QString::number(f.Width);
+    FormplatzMerken(app, f, kListenplatz);
     e[83] = f.Label7.Caption;
     e[190] = QString::number(f.ComboTypenliste.ListIndex);
     hideForm(app, f);
