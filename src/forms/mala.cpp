@@ -10,6 +10,8 @@ mala::mala()
     AZCHECK.Ribbon = true;
     Option3D1 = ControlArray<OptionButton>(0, 28);
     Check1.Caption = QStringLiteral("Drucken in der Farbe der Liste");
+    Command2.Caption = QStringLiteral("Sortierung");
+    AZCHECK.Caption = QStringLiteral("Z - A");
     Command1.Caption = QStringLiteral("Schrift");
     Command3.Caption = QStringLiteral("Back");
     Command4.Caption = QStringLiteral("Text");

@@ -12,6 +12,7 @@ malasp::malasp()
     Command6.Caption = QStringLiteral("Jahr");
     Command3D2.Caption = QStringLiteral("Drucken Abbrechen");
     AZCHECK.Ribbon = true;
+    AZCHECK.Caption = QStringLiteral("Z - A");
     Command3D1.Caption = QStringLiteral("Schliessen");
     Command3D3.Caption = QStringLiteral("Druckmodus beenden");
     Command3d4.Caption = QStringLiteral("Etiketten");

@@ -297,27 +297,21 @@ QSizeF pageTwips(const QPrinter& printer)
     return {page.width() * 20, page.height() * 20};
 }
 
+// The page of the running job, or of the printer a job would use.
+QSizeF pageOf(const QPrinter* job, const QString& printerName)
+{
+    if (job)
+        return pageTwips(*job);
+    QPrinter probe;
+    if (!printerName.isEmpty())
+        probe.setPrinterName(printerName);
+    return pageTwips(probe);
+}
+
 }  // namespace
 
-double QtPrinterSurface::Height() const
-{
-    if (job_)
-        return pageTwips(job_->printer).height();
-    QPrinter probe;
-    if (!printerName_.isEmpty())
-        probe.setPrinterName(printerName_);
-    return pageTwips(probe).height();
-}
-
-double QtPrinterSurface::Width() const
-{
-    if (job_)
-        return pageTwips(job_->printer).width();
-    QPrinter probe;
-    if (!printerName_.isEmpty())
-        probe.setPrinterName(printerName_);
-    return pageTwips(probe).width();
-}
+double QtPrinterSurface::Height() const { return pageOf(job_ ? &job_->printer : nullptr, printerName_).height(); }
+double QtPrinterSurface::Width() const { return pageOf(job_ ? &job_->printer : nullptr, printerName_).width(); }
 
 bool QtPrinterSurface::open()
 {

@@ -183,12 +183,7 @@ void Command8_Click(M& app)  // "Suchen"
     if (wert.isEmpty())
         return;
     app.Form6.Label6.Caption = wert;
-    const QString kriterium = QStringLiteral("LEFT([Laufendenummer],") + QString::number(wert.size()) + QStringLiteral(") = '") + wert + QLatin1Char('\'');
-    bool gefunden = false;
-    underIgnoredErrors([&] {
-        kartensatz(app).FindFirst(kriterium);
-        gefunden = !kartensatz(app).NoMatch();
-    });
+    const bool gefunden = NummernpraefixFinden(app, wert);
     if (!gefunden) {
         app.ui.MsgBox(QStringLiteral("Eintrag nicht gefunden !"));
         return;

@@ -213,9 +213,8 @@ void LfnrAnzeigen(M& app)
     underIgnoredErrors([&] { app.etiquet.Label38.Caption = kartensatz(app).Fields(QStringLiteral("Laufendenummer")).text(); });
 }
 
-void changer(M& app)
+bool NummernpraefixFinden(M& app, const QString& nummer)
 {
-    const QString nummer = app.etiquet.Label38.Caption;
     const QString kriterium = QStringLiteral("LEFT([Laufendenummer],") + QString::number(nummer.size()) + QStringLiteral(") = '") + nummer + QLatin1Char('\'');
     bool gefunden = false;
     underIgnoredErrors([&] {
@@ -223,7 +222,12 @@ void changer(M& app)
         satz.FindFirst(kriterium);
         gefunden = !satz.NoMatch();
     });
-    if (!gefunden) {
+    return gefunden;
+}
+
+void changer(M& app)
+{
+    if (!NummernpraefixFinden(app, app.etiquet.Label38.Caption)) {
         app.ui.MsgBox(QStringLiteral("Eintrag exsistiert nicht !"));
         return;
     }

@@ -51,6 +51,9 @@ void EtikettenFormAbgleichen(Merkkartelle& app);
 void Mengenfeld_Change(Merkkartelle& app, bool quer);
 // Copies the current Laufendenummer of Kartensatz into Label38.
 void LfnrAnzeigen(Merkkartelle& app);
+// FindFirst on Kartensatz with "LEFT([Laufendenummer],len) = 'nummer'": a prefix match, so
+// "12" also finds 123 when it comes first. True when a card was found.
+bool NummernpraefixFinden(Merkkartelle& app, const QString& nummer);
 // Finds the card named by Label38 (a prefix match) and shows it.
 void changer(Merkkartelle& app);
 

@@ -10,6 +10,9 @@
 #include "search/type_naming.h"
 #include "settings/form_places.h"
 
+#include <optional>
+#include <vector>
+
 namespace mk {
 
 namespace {
@@ -66,14 +69,28 @@ int gewaehlteOption(const M& app)
     return -1;
 }
 
-QString spaltenwert(Recordset& satz, const QString& teil)
+// The fields of one part of a line ("Vorname+Nachname" is two), looked up once per build;
+// a column the table lacks reads as empty.
+using Teilfelder = std::vector<std::optional<Field>>;
+Teilfelder teilfelder(Recordset& satz, const QString& teil)
+{
+    Teilfelder felder;
+    for (const QString& name : teil.split(QLatin1Char('+'), Qt::SkipEmptyParts)) {
+        std::optional<Field> feld;
+        underIgnoredErrors([&] { feld = satz.Fields(name); });
+        felder.push_back(feld);
+    }
+    return felder;
+}
+
+QString spaltenwert(const Teilfelder& felder)
 {
     QString wert;
-    const QStringList namen = teil.split(QLatin1Char('+'));
-    for (qsizetype i = 0; i < namen.size(); ++i) {
-        QString feld;
-        underIgnoredErrors([&] { feld = satz.Fields(namen[i]).text(); });
-        wert += (i ? QStringLiteral(" ") : QString()) + feld;
+    for (std::size_t i = 0; i < felder.size(); ++i) {
+        if (i)
+            wert += QLatin1Char(' ');
+        if (felder[i])
+            underIgnoredErrors([&] { wert += felder[i]->text(); });
     }
     return wert;
 }
@@ -185,13 +202,18 @@ void ListeAufbauen(M& app)
     QString teile[3];
     long n = 0;
     if (satz && satz->RecordCount() > 0) {
+        std::vector<Teilfelder> spalten;
+        for (const char* teil : art.teile)
+            spalten.push_back(teil ? teilfelder(*satz, QString::fromLatin1(teil)) : Teilfelder{});
+        const Teilfelder firma = teilfelder(*satz, QStringLiteral("Firma"));
+        const Teilfelder nummerFeld = teilfelder(*satz, QStringLiteral("Laufendenummer"));
         for (satz->MoveFirst(); !satz->IsEOF(); satz->MoveNext()) {
             zaehlerZeigen(app, ++n);
             long nummer = 0;
             bool ohneFirma = false;
             underIgnoredErrors([&] {
-                nummer = long(Val(satz->Fields(QStringLiteral("Laufendenummer")).text()));
-                ohneFirma = satz->Fields(QStringLiteral("Firma")).isNull();
+                nummer = long(Val(spaltenwert(nummerFeld)));
+                ohneFirma = firma[0] && firma[0]->isNull();
             });
             QString zeile;
             if (ohneFirma) {
@@ -200,9 +222,9 @@ void ListeAufbauen(M& app)
             } else {
                 QString roh[3];
                 for (int i = 0; i < 3; ++i)
-                    roh[i] = spaltenwert(*satz, QString::fromLatin1(art.teile[i]));
+                    roh[i] = spaltenwert(spalten[std::size_t(i)]);
                 if (art.teile[3])
-                    roh[2] += QStringLiteral(" ") + spaltenwert(*satz, QString::fromLatin1(art.teile[3]));
+                    roh[2] += QLatin1Char(' ') + spaltenwert(spalten[3]);
                 for (int i = 0; i < 3; ++i)
                     teile[i] = spaltenText(roh[i], breite[i], fuell);
                 zeile = teile[0] + QLatin1Char('\t') + teile[1] + QLatin1Char('\t') + teile[2];

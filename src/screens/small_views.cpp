@@ -35,6 +35,13 @@ FormWindow* buildMessageView(FormRegistry& forms)
     auto* text = b.make<QLabel>(QStringLiteral("Label1"));
     text->setMinimumWidth(twipsToPixels(forms.form(QStringLiteral("Message")).Width) - 60);
     inner->addWidget(text);
+    // The count and the bar of long runs, and the disk the run works on.
+    inner->addWidget(b.make(QStringLiteral("Label3")));
+    inner->addWidget(b.make(QStringLiteral("picAusgabe")));
+    auto* disks = new QHBoxLayout;
+    disks->addWidget(b.make(QStringLiteral("Image1")));
+    disks->addWidget(b.make(QStringLiteral("Image2")));
+    inner->addLayout(disks);
     return window;
 }
 
