@@ -586,6 +586,24 @@ void registerLabelLayoutHandlers(HandlerTable& table)
     table.on(f, QStringLiteral("Combo1"), QStringLiteral("MouseMove"), [](M& app, EventArgs& a) {
         app.etiquet.Panel3D2.Caption = app.etiquet.Combo1[std::max(0, a.Index)].Hint;
     });
+    // The form moves by dragging its body; meanwhile Label31 says so and the preview rests.
+    table.onForm(f, QStringLiteral("MouseDown"), [](M& app, EventArgs& a) {
+        app.etiquet.Label31.Caption = QStringLiteral("MOVENDO");
+        app.etiquet.Label31.Tag = QStringLiteral("%1 %2").arg(a.X).arg(a.Y);
+    });
+    table.onForm(f, QStringLiteral("MouseMove"), [](M& app, EventArgs& a) {
+        auto& e = app.etiquet;
+        const QStringList start = e.Label31.Tag.split(QLatin1Char(' '));
+        if (e.Label31.Caption != QLatin1String("MOVENDO") || start.size() != 2)
+            return;
+        e.Left += int(a.X - start[0].toDouble());
+        e.Top += int(a.Y - start[1].toDouble());
+    });
+    table.onForm(f, QStringLiteral("MouseUp"), [](M& app, EventArgs&) {
+        app.etiquet.Label31.Caption.clear();
+        app.etiquet.Label31.Tag.clear();
+        VorschauAuffrischen(app);
+    });
     table.on(f, QStringLiteral("Panel3D1"), QStringLiteral("MouseMove"), [](M& app, EventArgs&) {
         app.etiquet.Panel3D2.Caption = QStringLiteral(" ");
     });

@@ -270,6 +270,15 @@ TEST_F(LabelSheet, PreviewDrawsWhatThePaperGetsAndClampsTallLabels)
     EXPECT_TRUE(drawn.contains(QStringLiteral("Print 170 441 \" \"")));  // "Leer" shows a blank here
     EXPECT_TRUE(drawn.contains(QStringLiteral("Line 0 0 0 16840 255")));  // the printable area, in red
 
+    // While the settings form is dragged the preview rests.
+    const std::size_t drawings = app.printing.form(QStringLiteral("form4")).ops.size();
+    app.etiquet.Label31.Caption = QStringLiteral("MOVENDO");
+    app.etiquet.Combo1[1].Text = QStringLiteral("Vorname");
+    VorschauAuffrischen(app);
+    EXPECT_TRUE(app.printing.form(QStringLiteral("form4")).logLines().contains(QStringLiteral("Print 170 441 \" \"")));
+    EXPECT_EQ(app.printing.form(QStringLiteral("form4")).ops.size(), drawings);
+    app.etiquet.Label31.Caption.clear();
+
     app.etiquet.Text2.Text = QStringLiteral("30");
     VorschauZeichnen(app);
     EXPECT_EQ(app.etiquet.Text2.Text, QStringLiteral("29"));

@@ -13,6 +13,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPrinterInfo>
 #include <QTemporaryDir>
 
 namespace mk::test {
@@ -129,6 +130,36 @@ TEST_F(PrintingViews, LabelsOfAllCardsGoIntoARealPdf)
     EXPECT_GT(bytes.size(), 2000);
     QFile::remove(pictures() + QStringLiteral("/etiketten.pdf"));
     QFile::copy(pdf, pictures() + QStringLiteral("/etiketten.pdf"));
+}
+
+// With no printer installed, the first page offers a PDF file; a cancelled choice prints
+// nothing and the next job asks again.
+TEST(PrinterWithoutPrinters, OffersAPdfFileAndDropsTheJobWhenRefused)
+{
+    if (!QPrinterInfo::availablePrinters().isEmpty())
+        GTEST_SKIP() << "a printer is installed here";
+    QTemporaryDir dir;
+    ScriptedUserInterface ui;
+    QtPrinterSurface printer(ui);
+    ui.answerSaveCancel();
+    printer.Line(0, 0, 1000, 0);
+    printer.Print(QStringLiteral("verworfen"));
+    printer.EndDoc();
+    ASSERT_EQ(ui.boxes.size(), 1u);
+    EXPECT_EQ(ui.boxes[0].kind, QStringLiteral("save"));
+
+    const QString pdf = dir.filePath(QStringLiteral("ersatz.pdf"));
+    ui.answerSave(pdf);
+    printer.Print(QStringLiteral("gedruckt"));
+    printer.NewPage();
+    printer.Print(QStringLiteral("Seite zwei"));
+    printer.EndDoc();
+    EXPECT_EQ(ui.boxes.size(), 2u);
+    QFile file(pdf);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    EXPECT_TRUE(bytes.startsWith("%PDF"));
+    EXPECT_EQ(bytes.count("/Type /Page\n") + bytes.count("/Type /Page\r"), 2) << "two pages";
 }
 
 }  // namespace
