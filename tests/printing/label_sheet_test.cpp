@@ -12,6 +12,7 @@
 #include "support/file_bytes.h"
 
 #include <QDir>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace mk::test {
@@ -215,6 +216,61 @@ TEST_F(LabelSheet, RunOverAllCardsPrintsEachCardOnceWithTheCopysNumbers)
     EXPECT_EQ(texts.mid(11, 2), (QStringList{"Print 0 0 \"\"", "Print 170 170 \" Braun\""}));
     EXPECT_TRUE(log.contains(QStringLiteral("Line 0 2325 3969 2325 0")));  // the frame's bottom line of label 2
     EXPECT_FALSE(app.Message.Visible);
+}
+
+TEST_F(LabelSheet, ProgressBarMovesInStepsAndStandsStillAtExactlyAHundredCards)
+{
+    for (int i = 0; i < 100; ++i)
+        card({{"Nachname", QStringLiteral("N%1").arg(i, 3, 10, QLatin1Char('0'))}});
+    reopen();
+    lines({"Nachname"});
+    std::vector<int> bar;
+    ui.onDoEvents = [&] { bar.push_back(app.Message.picAusgabe.Value); };
+    EtikettenDrucken(app);
+    EXPECT_EQ(bar.size(), 101u);
+    EXPECT_EQ(*std::max_element(bar.begin(), bar.end()), 0);
+    EXPECT_EQ(printer->logLines().filter(QStringLiteral("\"N0")).size(), 100);
+
+    card({{"Nachname", QStringLiteral("N100")}});
+    reopen();
+    bar.clear();
+    EtikettenDrucken(app);
+    EXPECT_EQ(bar[10], 10);  // filled up to n at every tenth card
+    EXPECT_EQ(bar[19], 10);
+    EXPECT_EQ(bar.back(), 100);
+    ui.onDoEvents = nullptr;
+}
+
+TEST_F(LabelSheet, CuttingLineWithoutFrameAndAnUnreadablePictureLeaveTheLabelWhole)
+{
+    card({{"Vorname", "Eva"}, {"Nachname", "Kurz"}, {"Telex", "/nirgendwo/bild.bmp"}, {"Bemerkung", "Notiz"}});
+    reopen();
+    sheet("5", "3", 1, 1);
+    lines({"Vorname + Nachname", "", "", "", ""});
+    app.etiquet.Check3.Value = 1;
+    app.etiquet.Check7.Value = 1;
+    app.etiquet.Check5.Value = 1;
+    app.etiquet.Check6.Value = 1;
+    app.etiquet.Text13.Text = QStringLiteral("100");
+    EtikettenDrucken(app);
+    const QStringList log = printer->logLines();
+    EXPECT_TRUE(log.contains(QStringLiteral("Line 0 1701 13665 1701 0")));  // the run draws it without a frame
+    EXPECT_TRUE(printed().contains(QStringLiteral("Print 170 170 \"Eva Kurz\"")));
+    EXPECT_TRUE(printed(QStringLiteral("Picture")).isEmpty());
+    // The note block: five lines down, plus its own distance in twips, in its own colour.
+    EXPECT_TRUE(printed().contains(QStringLiteral("Print 170 1625 \"Notiz\"")));
+    EXPECT_TRUE(log.contains(QStringLiteral("ForeColor 16711680")));
+    EXPECT_TRUE(log.contains(QStringLiteral("Line 0 1575 2835 1575 16711680")));
+}
+
+TEST_F(LabelSheet, DamagedLayoutFileLoadsWithoutHarm)
+{
+    const QString path = QDir(dir.path()).filePath(QStringLiteral("kaputt.ecf"));
+    writeBytes(path, QByteArray("\x00\xff\"7,5\r\n\"ab\"\"\r\n\x01\x02", 16));
+    EXPECT_NO_THROW(EtikettendateiLesen(app, path));
+    EXPECT_EQ(app.etiquet.Quantidade.Text, QStringLiteral("1"));
+    EXPECT_EQ(app.etiquet.colunas.Text, QStringLiteral("1"));
+    EXPECT_EQ(app.etiquet.Text5.Text.size() <= 10, true);
 }
 
 TEST_F(LabelSheet, EmptyCardFileOpensNoJob)
