@@ -4,6 +4,7 @@
 #include "card/app_state.h"
 #include "card/session.h"
 #include "platform/clock.h"
+#include "platform/printer.h"
 #include "screens/desktop.h"
 #include "screens/qt_user_interface.h"
 
@@ -20,6 +21,7 @@ int main(int argc, char** argv)
     mk::Clock clock;
     mk::QtUserInterface ui;
     mk::Merkkartelle app(ui, clock);
+    app.printing.makePrinter = [&ui] { return std::make_unique<mk::QtPrinterSurface>(ui); };
     mk::Desktop desktop(app, ui);
     mk::Binder& binder = desktop.binder();
     ui.onEnded = [] { QCoreApplication::exit(0); };

@@ -5,6 +5,7 @@
 #include "card/main_window.h"
 #include "card/notice.h"
 #include "history/global_view.h"
+#include "printing/label_layout.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
@@ -23,6 +24,8 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(etiquet);
     forms.add(Form5);
     forms.add(Form6);
+    forms.add(form4);
+    forms.add(malaview);
     forms.add(mala);
     forms.add(malasp);
     forms.add(Schnellsuchen);
@@ -58,6 +61,7 @@ void registerAllHandlers(HandlerTable& table)
     registerGlobalViewHandlers(table);
     registerTypeHandlers(table);
     registerPickListHandlers(table);
+    registerPrintingHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

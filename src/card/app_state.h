@@ -14,6 +14,7 @@
 #include "forms/cidadefrm.h"
 #include "forms/etiquet.h"
 #include "forms/form5.h"
+#include "forms/form4.h"
 #include "forms/form6.h"
 #include "forms/frm_export.h"
 #include "forms/mala.h"
@@ -32,6 +33,7 @@
 #include "forms/registry.h"
 #include "forms/timers.h"
 #include "platform/clock.h"
+#include "platform/printer.h"
 #include "platform/store.h"
 #include "platform/user_interface.h"
 
@@ -112,6 +114,8 @@ struct Merkkartelle {
     mk::etiquet etiquet;
     mk::Form5 Form5;
     mk::Form6 Form6;
+    mk::form4 form4;
+    mk::malaview malaview;
     mk::mala mala;
     mk::malasp malasp;
     mk::Schnellsuchen Schnellsuchen;
@@ -125,6 +129,13 @@ struct Merkkartelle {
     mk::malaglobalview malaglobalview;
     mk::DIALER DIALER;
     mk::TypenlisteBenutzerdefiniert TypenlisteBenutzerdefiniert;
+
+    // The Printer and the drawing surfaces of the forms.
+    PrintDevices printing;
+    // BogenHoehe and its copy: the sheet height in centimetres of the last label run.
+    double BogenHoehe = 0;
+    double BogenHoeheKopie = 0;
+    QString GeburtstagFilter;  // the criterion of the birthday list
 
     FormRegistry forms;
     HandlerTable handlers;

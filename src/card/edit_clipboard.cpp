@@ -1,6 +1,7 @@
 #include "card/edit_clipboard.h"
 
 #include "card/app_state.h"
+#include "printing/label_printing.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
 
@@ -134,6 +135,8 @@ void Command3D13_Click(Merkkartelle& app)
 {
     if (bearbeitungOffen(app))
         BildAussuchen(app);
+    else
+        EtikettenKonfigurieren(app);
 }
 
 void registerEditClipboardHandlers(HandlerTable& table)

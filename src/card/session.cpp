@@ -1,6 +1,7 @@
 #include "card/session.h"
 
 #include "card/app_state.h"
+#include "printing/birthday_list.h"
 #include "card/card_cursor.h"
 #include "card/card_editing.h"
 #include "card/mask_transfer.h"
@@ -222,6 +223,8 @@ void Hauptmaske_Load(Merkkartelle& app)
 
     m.Caption = HauptmaskeTitel(app);
     fortschritt(app, 7000);
+    if (app.config.Check3D3.checked())
+        GeburtstagslisteZeigen(app);
 
     PositionAnzeigen(app);
     LetzteKarteZeigen(app);

@@ -74,8 +74,8 @@ etiquet::etiquet()
     box(InfoFontname, "ARIAL", "Clique para escolher uma fonte para o texto da Bemerkung");
     box(InfoFontsize, "10");
     swatch(Infoforecolor, colour::Blue, "Textfarbe für die Bemerkung auswählen");
-    check(Check10, "");
-    check(Check20, "");
+    check(Check10, "Negrito");
+    check(Check20, "Italico");
     check(Check6, "Trennlinie");
     box(Text13, "0", "Distancia entre endereço e Bemerkung");
 
@@ -93,6 +93,13 @@ etiquet::etiquet()
 
     Label17.Hint = QStringLiteral("Escolha os items para a impressão");
     SSPanel1.Hint = QStringLiteral("Clique para redesenhar");
+    // The buttons showed pictures; their words here are the keys' meanings.
+    Command1.Caption = QStringLiteral("Laden");
+    Command2.Caption = QStringLiteral("Speichern");
+    Command3.Caption = QStringLiteral("Drucken");
+    Command3D2.Caption = QStringLiteral("Schliessen");
+    Command3D12.Caption = QStringLiteral("Eintrag...");
+    SSPanel1.Caption = QStringLiteral("Vorschau");
     Command1.Hint = QStringLiteral("Etiketteneinstellung laden");
     Command2.Hint = QStringLiteral("Etiketteneinstellung speichern");
     Command4.Caption = QStringLiteral("Drucker Einstellen");

@@ -11,6 +11,8 @@ Form6::Form6()
     impinf.BooleanValue = true;
     Impsoc.Caption = QStringLiteral("Conected");
     Impsoc.BooleanValue = true;
+    Command1.Caption = QStringLiteral("+");  // the picture factor up and down by one
+    Command7.Caption = QStringLiteral("-");
     Command2.Caption = QStringLiteral("Farbe");
     Command3.Caption = QStringLiteral("Schliessen");
     Command4.Caption = QStringLiteral("Drucken");

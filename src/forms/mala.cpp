@@ -10,6 +10,8 @@ mala::mala()
     AZCHECK.Ribbon = true;
     Option3D1 = ControlArray<OptionButton>(0, 28);
     Check1.Caption = QStringLiteral("Drucken in der Farbe der Liste");
+    Command2.Caption = QStringLiteral("Sortierung");
+    AZCHECK.Caption = QStringLiteral("Z - A");
     Command1.Caption = QStringLiteral("Schrift");
     Command3.Caption = QStringLiteral("Back");
     Command4.Caption = QStringLiteral("Text");
@@ -23,6 +25,13 @@ mala::mala()
     Label9.Visible = false;
     Label7.Visible = false;
     Label20.Caption = QStringLiteral("Nome / Sobrenome / Firma");
+    SSCommand1.Caption = QStringLiteral("Drucken");
+    Command3D1.Caption = QStringLiteral("Schliessen");
+    Command3D3.Caption = QStringLiteral("Druckmodus beenden");
+    Command3d4.Caption = QStringLiteral("Etiketten");
+    Command3D2.Visible = false;
+    for (Label* l : {&Label5, &Label15, &Label17, &Label18, &Label19})
+        l->Visible = false;
     nameControls(*this, "mala");
 }
 

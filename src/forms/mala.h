@@ -14,8 +14,12 @@ struct mala : Form {
     Panel Panel3D1;
     CheckBox Check1;           // "Drucken in der Farbe der Liste"
     Button Command1, Command2, Command3, Command4, Command3D2;
+    Button SSCommand1;   // plain print of the list
+    Button Command3D1;   // close
+    Button Command3D3;   // leave print mode
+    Button Command3d4;   // enter print mode
     Label Label3, Label4, Label5, Label7, Label9, Label10, Label11, Label12, Label14, Label15;
-    Label Label17, Label20, noat1;
+    Label Label17, Label18, Label19, Label20, noat1;
 
     mala();
     template <class V>
@@ -33,6 +37,12 @@ struct mala : Form {
         v("Command3", Command3);
         v("Command4", Command4);
         v("Command3D2", Command3D2);
+        v("SSCommand1", SSCommand1);
+        v("Command3D1", Command3D1);
+        v("Command3D3", Command3D3);
+        v("Command3d4", Command3d4);
+        v("Label18", Label18);
+        v("Label19", Label19);
         v("Label3", Label3);
         v("Label4", Label4);
         v("Label5", Label5);

@@ -12,6 +12,7 @@ struct malasp : Form {
     TextBox Text2;      // day
     TextBox Text3;      // year
     Button Command2, Command5, Command6, Command3D2;
+    Button Command3D1, Command3D3, Command3d4;
     Button AZCHECK;
     Frame Frame3D2;
     Label Label3, Label4, Label9;
@@ -29,6 +30,9 @@ struct malasp : Form {
         v("Command5", Command5);
         v("Command6", Command6);
         v("Command3D2", Command3D2);
+        v("Command3D1", Command3D1);
+        v("Command3D3", Command3D3);
+        v("Command3d4", Command3d4);
         v("AZCHECK", AZCHECK);
         v("Frame3D2", Frame3D2);
         v("Label3", Label3);

@@ -17,6 +17,11 @@ Message::Message()
     Label1.Width = 4260;
     Label1.Height = 420;
 
+    Label3.Visible = false;
+    picAusgabe.Visible = false;
+    Image1.Visible = false;
+    Image2.Visible = false;
+
     Timer1.Interval = 2000;
 
     nameControls(*this, "Message");

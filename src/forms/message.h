@@ -8,6 +8,9 @@ namespace mk {
 
 struct Message : Form {
     Label Label1;
+    Label Label3;          // a running count
+    ScrollBar picAusgabe;  // the progress bar of long runs: Max the whole, Value the part done
+    Image Image1, Image2;  // hard disk or floppy disk
     Timer Timer1;
 
     Message();
@@ -15,6 +18,10 @@ struct Message : Form {
     void eachControl(V&& v)
     {
         v("Label1", Label1);
+        v("Label3", Label3);
+        v("picAusgabe", picAusgabe);
+        v("Image1", Image1);
+        v("Image2", Image2);
         v("Timer1", Timer1);
     }
 };

@@ -107,6 +107,7 @@ struct PrinterChoice {
     bool cancelled = true;
     int Flags = 0;
     int Copies = 1;
+    QString PrinterName;  // the printer chosen; empty: the one in use
 };
 
 class UserInterface {

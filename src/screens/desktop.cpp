@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "screens/qt_user_interface.h"
+#include "screens/printing_views.h"
 #include "screens/views.h"
 
 #include <QWidget>
@@ -16,11 +17,14 @@ Desktop::Desktop(Merkkartelle& app, QtUserInterface& ui) : ui_(ui), binder_(app)
         binder_.attach(form, window);
     }
     ui_.setBinder(&binder_);
+    setDrawingSource(&app.printing);
+    app.printing.formChanged = [](const QString& form) { repaintDrawing(form); };
 }
 
 Desktop::~Desktop()
 {
     ui_.setBinder(nullptr);
+    setDrawingSource(nullptr);
 }
 
 }  // namespace mk

@@ -286,6 +286,7 @@ PrinterChoice QtUserInterface::ShowPrinter(const PrinterDialog& d)
         return choice;
     choice.cancelled = false;
     choice.Copies = printer.copyCount();
+    choice.PrinterName = printer.printerName();
     choice.Flags = (d.Flags & ~cdlPDSelection)
                    | (dialog.printRange() == QAbstractPrintDialog::Selection ? cdlPDSelection : 0);
     return choice;

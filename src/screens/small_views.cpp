@@ -3,6 +3,7 @@
 #include "screens/cidadefrm_view.h"
 #include "screens/conversions.h"
 #include "screens/form2_view.h"
+#include "screens/printing_views.h"
 #include "screens/settings_views.h"
 #include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
@@ -34,6 +35,13 @@ FormWindow* buildMessageView(FormRegistry& forms)
     auto* text = b.make<QLabel>(QStringLiteral("Label1"));
     text->setMinimumWidth(twipsToPixels(forms.form(QStringLiteral("Message")).Width) - 60);
     inner->addWidget(text);
+    // The count and the bar of long runs, and the disk the run works on.
+    inner->addWidget(b.make(QStringLiteral("Label3")));
+    inner->addWidget(b.make(QStringLiteral("picAusgabe")));
+    auto* disks = new QHBoxLayout;
+    disks->addWidget(b.make(QStringLiteral("Image1")));
+    disks->addWidget(b.make(QStringLiteral("Image2")));
+    inner->addLayout(disks);
     return window;
 }
 
@@ -137,6 +145,18 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildTypenlisteBenutzerdefiniertView(forms);
     if (name == QLatin1String("Cidadefrm"))
         return buildCidadefrmView(forms);
+    if (name == QLatin1String("etiquet"))
+        return buildEtiquetView(forms);
+    if (name == QLatin1String("form4"))
+        return buildForm4View(forms);
+    if (name == QLatin1String("mala"))
+        return buildMalaView(forms);
+    if (name == QLatin1String("malasp"))
+        return buildMalaspView(forms);
+    if (name == QLatin1String("malaview"))
+        return buildMalaviewView(forms);
+    if (name == QLatin1String("Form6"))
+        return buildForm6View(forms);
     return buildGenericView(forms, name);
 }
 

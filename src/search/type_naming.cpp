@@ -43,6 +43,8 @@ void namenAusEinstellungen(Merkkartelle& app)
         felder[std::size_t(k)]->Text = app.Einstellungsliste[std::size_t(kErsterTypEintrag + k)];
 }
 
+}  // namespace
+
 // The list of types of the serial-letter list: the seven names, then index 7 for all cards
 // and index 8 for the choice of several types; the stored default chosen.
 void typenlisteFuellen(Merkkartelle& app)
@@ -57,8 +59,6 @@ void typenlisteFuellen(Merkkartelle& app)
     if (vorgabe >= -1 && vorgabe < combo.ListCount())
         combo.select(vorgabe);
 }
-
-}  // namespace
 
 void menutipo_Click(Merkkartelle& app)
 {

@@ -17,6 +17,9 @@ void TypenBenennen(Merkkartelle& app);
 // Confirms the naming: captions, entries, Typenbenennung(1..7) and mala.ComboTypenliste
 // (seven names, "Alle Einträge", "Persönliche Definition", index from entry 190).
 void Command6_Click(Merkkartelle& app);
+// The list of types of mala: the seven names, then index 7 for all cards and index 8 for
+// the choice of several types; the stored default (entry 190) chosen.
+void typenlisteFuellen(Merkkartelle& app);
 // Cancels the naming: the boxes take the entries again.
 void Command2_Click(Merkkartelle& app);
 

@@ -532,7 +532,8 @@ TEST_F(DriveTest, FaultsOfTheScriptNameTheirLine)
         {"key Hauptmaske F13\n", "unknown key \"F13\""},
         {"wait -5\n", "wait cannot go back in time"},
         {"clock 24.12.2024\n", "clock takes \"YYYY-MM-DD HH:MM:SS\", not \"24.12.2024\""},
-        {"printer druck.log\n", "printer is not yet supported"},
+        {"printer\n", "usage: printer PATH"},
+        {"preview a.log b.log\n", "usage: preview PATH"},
     };
     for (const auto& [script, message] : cases) {
         const Outcome o = run((std::string("# first\n") + script).c_str());

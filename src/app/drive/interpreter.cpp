@@ -4,6 +4,7 @@
 #include "platform/app_home.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/printer.h"
 #include "platform/profile.h"
 
 #include <QDir>
@@ -41,6 +42,9 @@ Interpreter::Interpreter(std::vector<ScriptLine> lines, Merkkartelle& app, Scrip
         modalLoop(form, stillShown);
     };
     ui_.onDoEvents = [this] { onDoEvents(); };
+    // Without a printer line, printing goes where the desktop's does: the system printer,
+    // or a PDF file offered through the save dialog when none is installed.
+    app_.printing.makePrinter = [this] { return std::make_unique<QtPrinterSurface>(ui_); };
 }
 
 Interpreter::~Interpreter()
@@ -59,6 +63,7 @@ const std::vector<Interpreter::Command>& Interpreter::commands()
         {"write", Phase::Setup, &Interpreter::write},
         {"clock", Phase::Setup, &Interpreter::clock},
         {"printer", Phase::Setup, &Interpreter::printer},
+        {"preview", Phase::Setup, &Interpreter::preview},
         {"start", Phase::Running, &Interpreter::start},
         {"click", Phase::Running, &Interpreter::click},
         {"dblclick", Phase::Running, &Interpreter::dblclick},

@@ -76,6 +76,7 @@ private:
     void write(const ScriptLine& line);
     void clock(const ScriptLine& line);
     void printer(const ScriptLine& line);
+    void preview(const ScriptLine& line);
     QString cardDatabasePath();
     QString cardTableName();
 

@@ -10,6 +10,7 @@
 #include "platform/profile.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -117,7 +118,10 @@ int runScript(const QByteArray& bytes)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    // Printing to PDF needs fonts, so the driver is a GUI program without a screen.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
     const std::optional<Options> options = parseArguments(QCoreApplication::arguments());
     if (!options) {
         say(stderr, QStringLiteral("usage: merkkartelle-drive SCRIPT [--home DIR] [--keep]"));

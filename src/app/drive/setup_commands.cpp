@@ -5,6 +5,7 @@
 #include "platform/app_home.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/printer.h"
 #include "platform/profile.h"
 #include "platform/store.h"
 
@@ -117,9 +118,40 @@ void Interpreter::clock(const ScriptLine& line)
     app_.timers.sync(app_.forms, app_.clock);
 }
 
-void Interpreter::printer(const ScriptLine&)
+namespace {
+
+// An empty log file; false when it cannot be written.
+bool freshLog(const QString& path)
 {
-    fault(QStringLiteral("printer is not yet supported"));
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+}
+
+}  // namespace
+
+void Interpreter::printer(const ScriptLine& line)
+{
+    need(line, 2, "printer PATH");
+    const QString log = QFileInfo(filePath(line.tokens[1].text)).absoluteFilePath();
+    if (!freshLog(log))
+        fault(QStringLiteral("cannot write %1").arg(quotedValue(log)));
+    app_.printing.setPrinter(nullptr);
+    app_.printing.makePrinter = [log] {
+        auto printer = std::make_unique<RecordingSurface>(kA4HeightTwips, kA4WidthTwips);
+        printer->logPath = log;
+        printer->keepOps = false;  // the log is what a script reads
+        return printer;
+    };
+}
+
+void Interpreter::preview(const ScriptLine& line)
+{
+    need(line, 2, "preview PATH");
+    const QString log = QFileInfo(filePath(line.tokens[1].text)).absoluteFilePath();
+    if (!freshLog(log))
+        fault(QStringLiteral("cannot write %1").arg(quotedValue(log)));
+    app_.printing.previewLog = log;
 }
 
 }  // namespace mk::drive
