@@ -4,7 +4,9 @@
 #include "card/card_handlers.h"
 #include "card/main_window.h"
 #include "card/notice.h"
+#include "history/connections.h"
 #include "history/global_view.h"
+#include "history/history_list.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
@@ -49,6 +51,8 @@ void registerAllHandlers(HandlerTable& table)
     registerMainWindowHandlers(table);
     registerSettingsHandlers(table);
     registerGlobalViewHandlers(table);
+    registerHistoryHandlers(table);
+    registerConnectionHandlers(table);
     registerTypeHandlers(table);
     registerPickListHandlers(table);
 }

@@ -3,6 +3,7 @@
 #include "screens/cidadefrm_view.h"
 #include "screens/conversions.h"
 #include "screens/form2_view.h"
+#include "screens/history_views.h"
 #include "screens/settings_views.h"
 #include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
@@ -137,6 +138,10 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildTypenlisteBenutzerdefiniertView(forms);
     if (name == QLatin1String("Cidadefrm"))
         return buildCidadefrmView(forms);
+    if (name == QLatin1String("replay"))
+        return buildReplayView(forms);
+    if (name == QLatin1String("Aform"))
+        return buildAformView(forms);
     return buildGenericView(forms, name);
 }
 
