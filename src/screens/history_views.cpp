@@ -11,10 +11,50 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
+#include <QPainter>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace mk {
+
+namespace {
+
+// The lines of the history are columns parted by tabs: each column starts at its own place,
+// whatever the width of the text before it.
+class TabColumns : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem o = option;
+        initStyleOption(&o, index);
+        const QString text = o.text;
+        o.text.clear();
+        const QWidget* widget = option.widget;
+        QStyle* style = widget ? widget->style() : nullptr;
+        if (style)
+            style->drawControl(QStyle::CE_ItemViewItem, &o, painter, widget);
+        static const int widths[] = {130, 100, 180, 110};
+        painter->save();
+        painter->setPen(o.palette.color(option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
+        int x = o.rect.left() + 4;
+        const QStringList parts = text.split(QLatin1Char('\t'));
+        for (int i = 0; i < parts.size(); ++i) {
+            const bool last = i + 1 == parts.size();
+            const int width = i < 4 && !last ? widths[i] : o.rect.right() - x;
+            const QRect cell(x, o.rect.top(), std::max(width - 6, 0), o.rect.height());
+            painter->drawText(cell, Qt::AlignLeft | Qt::AlignVCenter,
+                              o.fontMetrics.elidedText(parts[i], Qt::ElideRight, cell.width()));
+            x += width;
+        }
+        painter->restore();
+    }
+};
+
+}  // namespace
 
 FormWindow* buildReplayView(FormRegistry& forms)
 {
@@ -34,8 +74,9 @@ FormWindow* buildReplayView(FormRegistry& forms)
     counters->addStretch(1);
     v->addLayout(counters);
 
-    QWidget* list = b.make(QStringLiteral("Schnelleauswahlliste"));
-    list->setMinimumSize(420, 220);
+    auto* list = b.make<QListWidget>(QStringLiteral("Schnelleauswahlliste"));
+    list->setItemDelegate(new TabColumns(list));
+    list->setMinimumSize(580, 220);
     v->addWidget(list, 1);
 
     auto* buttons = new QHBoxLayout;
