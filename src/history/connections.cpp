@@ -342,7 +342,7 @@ void Infolabel_MouseMove(M& app, int i)
 // The main mask to the card with that number, when there is one.
 void hauptmaskeZu(M& app, const QString& nummer)
 {
-    if (nummer.trimmed().isEmpty() || bearbeitungOffen(app) || bildschutzSichtbar(app))
+    if (nummer.trimmed().isEmpty() || bearbeitungOffen(app))
         return;
     auto& m = app.Hauptmaske;
     const QString vorher = m.LaufendeNummer.Caption;

@@ -147,12 +147,8 @@ void Schnelleauswahlliste_Click(M& app)
         return;
     const long nummer = l.ItemData(l.ListIndex);
     app.replay.Label2.Caption = QString::number(nummer);
-    bool gefunden = false;
-    underIgnoredErrors([&] {
-        kartensatz(app).FindFirst(QStringLiteral("[Laufendenummer] LIKE ") + QString::number(nummer));
-        gefunden = !kartensatz(app).NoMatch();
-    });
-    if (!gefunden)
+    // The number alone, as "[Laufendenummer] LIKE n" asks it, through the store's key.
+    if (!KarteFinden(app, QString::number(nummer)))
         return;  // a card that is gone: the mask stays on its card
     auto& m = app.Hauptmaske;
     if (long(Val(m.LaufendeNummer.Caption)) != nummer)
