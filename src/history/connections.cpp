@@ -5,6 +5,7 @@
 #include "card/mask_transfer.h"
 #include "platform/files.h"
 #include "platform/text_files.h"
+#include "settings/form_places.h"
 
 namespace mk {
 
@@ -29,9 +30,8 @@ constexpr int kInfoNummer = Aform::kInfofelder - 1;  // the Infolabel of the run
 const QString kBildspalte = QStringLiteral("Telex");
 const QString kLeer = QStringLiteral("*");
 
-// Settings records of the form: Top, Left, and the values of the first four options.
-constexpr int kLageOben = 126;
-constexpr int kLageLinks = 127;
+// Settings records of the form: Top and Left, then the values of the first four options.
+const Formplatz kVerknuepfungenPlatz{126, 127};
 constexpr int kErsteOption = 128;
 
 constexpr int kBreiteKlein = 7800;
@@ -86,8 +86,6 @@ void browserOeffnen(M& app, const QString& spalte)
     InfolabelFuellen(app);
 }
 
-bool bearbeitbar(M& app) { return bearbeitungOffen(app); }
-
 // Slot i (1 to 10) takes the browser's current card.
 void slotFuellen(M& app, int slot)
 {
@@ -117,23 +115,10 @@ void Aform_Load(M& app)
 
 void lageSpeichern(M& app)
 {
-    app.Einstellungsliste[kLageOben] = QString::number(app.Aform.Top);
-    app.Einstellungsliste[kLageLinks] = QString::number(app.Aform.Left);
+    FormplatzMerken(app, app.Aform, kVerknuepfungenPlatz);
     for (int i = 0; i < 4; ++i)
         app.Einstellungsliste[std::size_t(kErsteOption + i)] =
             app.Aform.SuchOption[i].Value ? QStringLiteral("True") : QStringLiteral("False");
-}
-
-void lageLaden(M& app)
-{
-    Aform& f = app.Aform;
-    bool ok = false;
-    const int oben = app.Einstellungsliste[kLageOben].trimmed().toInt(&ok);
-    if (ok)
-        f.Top = oben;
-    const int links = app.Einstellungsliste[kLageLinks].trimmed().toInt(&ok);
-    if (ok)
-        f.Left = links;
 }
 
 void schriftGeben(M& app)
@@ -182,7 +167,7 @@ void Command7_Click(M& app)  // larger or smaller
 
 void Suchtext_Change(M& app, int i)
 {
-    if (!bearbeitbar(app))
+    if (!bearbeitungOffen(app))
         return;
     const int slot = i + 1;
     const QString nummer = app.Aform.Suchtext[i].Text.trimmed();
@@ -204,7 +189,7 @@ void Suchtext_Change(M& app, int i)
 
 void Suchtext_DblClick(M& app, int i)
 {
-    if (!bearbeitbar(app) || !browserZeigtKarte(app))
+    if (!bearbeitungOffen(app) || !browserZeigtKarte(app))
         return;
     slotFuellen(app, i + 1);
 }
@@ -414,7 +399,7 @@ void Command3_Click(Merkkartelle& app)
         return;
     }
     loadForm(app, f);
-    lageLaden(app);
+    FormplatzNehmen(app, f, kVerknuepfungenPlatz);
     schriftGeben(app);
     optionAusEinstellungen(app);
     showForm(app, f);

@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
+#include "settings/form_places.h"
 
 #include <algorithm>
 
@@ -73,25 +74,7 @@ QString lastuserPfad() { return joinPath(applicationHome(), kLetzterVerlauf); }
 // ---- the form ------------------------------------------------------------------------------
 
 // Position and size of replay: records 114 to 117 of the settings (Top, Left, Height, Width).
-void lageAusEinstellungen(M& app)
-{
-    replay& f = app.replay;
-    int* ziele[] = {&f.Top, &f.Left, &f.Height, &f.Width};
-    for (int i = 0; i < 4; ++i) {
-        bool ok = false;
-        const int wert = app.Einstellungsliste[std::size_t(114 + i)].trimmed().toInt(&ok);
-        if (ok && (i < 2 || wert > 0))
-            *ziele[i] = wert;
-    }
-}
-
-void lageSpeichern(M& app)
-{
-    const replay& f = app.replay;
-    const int werte[] = {f.Top, f.Left, f.Height, f.Width};
-    for (int i = 0; i < 4; ++i)
-        app.Einstellungsliste[std::size_t(114 + i)] = QString::number(werte[i]);
-}
+const Formplatz kVerlaufPlatz{114, 115, 116, 117};
 
 void replay_Resize(M& app)
 {
@@ -107,7 +90,7 @@ void replay_Resize(M& app)
 
 void Command3D6_Click(M& app)
 {
-    lageSpeichern(app);
+    FormplatzMerken(app, app.replay, kVerlaufPlatz);
     hideForm(app, app.replay);
 }
 
@@ -122,7 +105,7 @@ void replay_KeyDown(M& app, EventArgs& args)
 void replay_QueryUnload(M& app, EventArgs& args)
 {
     // Closed by the user: the list lives on in the hidden form.
-    lageSpeichern(app);
+    FormplatzMerken(app, app.replay, kVerlaufPlatz);
     if (args.UnloadMode == 0) {
         args.Cancel = 1;
         hideForm(app, app.replay);
@@ -333,7 +316,7 @@ void VerlaufSichern(Merkkartelle& app)
 
 void menuauto_Click(Merkkartelle& app)
 {
-    lageAusEinstellungen(app);
+    FormplatzNehmen(app, app.replay, kVerlaufPlatz);
     showForm(app, app.replay);
 }
 

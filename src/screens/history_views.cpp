@@ -60,6 +60,7 @@ FormWindow* buildReplayView(FormRegistry& forms)
 {
     auto* window = new FormWindow(nullptr, Qt::Dialog);
     ViewBuilder b(forms, QStringLiteral("replay"), window);
+    window->setProperty("mkStatusLine", QStringLiteral("Panel3D1"));
     auto* v = new QVBoxLayout(window);
     v->setContentsMargins(10, 6, 10, 6);
     v->setSpacing(6);
