@@ -290,6 +290,8 @@ void VerlaufLaden(Merkkartelle& app, const QString& pfad)
     // main cursor's selection hides.
     RecordsetPtr satz;
     underIgnoredErrors([&] {
+        if (!app.Kartendatenbank)
+            return;  // a closed database: every line a hyphen line
         RecordsetPtr basis = app.Kartendatenbank->createDynaset(app.Tabellenname);
         basis->Sort = QStringLiteral("[Laufendenummer]");
         satz = basis->createDynaset();

@@ -77,7 +77,7 @@ TEST_F(HistoryList, AListFileHoldsAHundredCardsAndNoMore)
     EXPECT_EQ(numbers(), (QList<long>{2, 1, 3}));
 }
 
-TEST_F(HistoryList, ReadingEndsAtTheMarkerOrTheEndAndSurvivesForeignBytes)
+TEST_F(HistoryList, ReadingEndsAtTheMarkerOrTheEndAndSurvivesForeignBytesAndAClosedDatabase)
 {
     writeBytes(file("a.dat"), "5\r\n\"D\"\r\n7\r\n\"D\"\r\n");
     EXPECT_EQ(VerlaufsdateiLesen(file("a.dat")).nummern, std::vector<long>{5});
@@ -96,6 +96,13 @@ TEST_F(HistoryList, ReadingEndsAtTheMarkerOrTheEndAndSurvivesForeignBytes)
     ASSERT_GT(l.ListCount(), 0);
     for (int i = 0; i < l.ListCount(); ++i)
         EXPECT_EQ(l.List(i), kStrichzeile);
+
+    // With the database closed a list still loads, every line a hyphen line.
+    app.replay.Schnelleauswahlliste.Clear();
+    app.Kartendatenbank.reset();
+    VerlaufLaden(app, listOf(2));
+    EXPECT_EQ(numbers(), (QList<long>{1, 2}));
+    EXPECT_EQ(l.List(0), kStrichzeile);
 }
 
 TEST_F(HistoryList, LoadingFindsCardsThatTheSelectionHides)
