@@ -26,12 +26,13 @@ namespace mk::fuzz {
 
 std::vector<Target> platformTargets();
 std::vector<Target> settingsTargets();
+std::vector<Target> historyTargets();
 
 const std::vector<Target>& targets()
 {
     static const std::vector<Target> all = [] {
         std::vector<Target> t = platformTargets();
-        for (auto&& more : {settingsTargets()})
+        for (auto&& more : {settingsTargets(), historyTargets()})
             t.insert(t.end(), more.begin(), more.end());
         return t;
     }();

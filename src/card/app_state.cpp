@@ -4,8 +4,10 @@
 #include "card/card_handlers.h"
 #include "card/main_window.h"
 #include "card/notice.h"
+#include "history/connections.h"
 #include "history/global_view.h"
 #include "printing/label_layout.h"
+#include "history/history_list.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
@@ -59,6 +61,8 @@ void registerAllHandlers(HandlerTable& table)
     registerMainWindowHandlers(table);
     registerSettingsHandlers(table);
     registerGlobalViewHandlers(table);
+    registerHistoryHandlers(table);
+    registerConnectionHandlers(table);
     registerTypeHandlers(table);
     registerPickListHandlers(table);
     registerPrintingHandlers(table);

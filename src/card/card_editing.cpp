@@ -443,6 +443,12 @@ void MaskeSchalten(Merkkartelle& app)
         label.ForeColor = farbe;
     // The warning of AktivFarbe has done its work once the mode changes.
     m.LaufendeNummer.ForeColor = colour::Black;
+    // The connections of the card are part of the mask: typed into only while it is open.
+    const bool gesperrt = !bearbeitungOffen(app);
+    for (auto& [i, feld] : app.Aform.FeldA)
+        feld.Locked = gesperrt;
+    for (auto& [i, feld] : app.Aform.Suchtext)
+        feld.Locked = gesperrt;
 }
 
 QString DatumText(const Merkkartelle& app)

@@ -3,6 +3,7 @@
 #include "card/app_state.h"
 #include "card/card_cursor.h"
 #include "card/card_slots.h"
+#include "history/history_list.h"
 #include "platform/files.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
@@ -163,6 +164,14 @@ void DatenInMaske(Merkkartelle& app)
     m.AdresseÄndern.Enabled = true;
     m.AdresseLöschen.Enabled = true;
     m.Command1.Enabled = true;
+
+    // The history takes a card the user asked for; the flag acts for that one card, so a
+    // jump from the history itself, or any later showing, records nothing.
+    if (m.Label9.Caption == kReplayOn) {
+        if (app.config.Check3D5.checked())
+            Verlaufsaufnahme(app);
+        m.Label9.Caption.clear();
+    }
 
     if (app.mala.Visible) {
         auto& liste = app.mala.Schnelleauswahlliste;

@@ -7,6 +7,7 @@
 #include "card/mask_transfer.h"
 #include "card/notice.h"
 #include "history/global_view.h"
+#include "history/history_list.h"
 #include "platform/app_home.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -245,6 +246,7 @@ void abrirdmb_Click(Merkkartelle& app)
     if (bearbeitungOffen(app))
         return;
 
+    VerlaufSichern(app);
     if (app.config.Check3D13.checked()) {
         underIgnoredErrors([&] { EinstellungenSchreiben(app); });
         ShowMessage(app, QStringLiteral("Aktuelle Einstellungen wurden gespeichert") + QStringLiteral("\r\n")
@@ -365,6 +367,8 @@ void SSCommand1_Click(Merkkartelle& app)
     underIgnoredErrors([&] { EinstellungenSchreiben(app); });
     if (!offen)
         underIgnoredErrors([&] { StandardBenennungSchreiben(app); });
+    // The history is kept whether or not it records: what the list holds comes back next time.
+    VerlaufSichern(app);
 
     SitzungZaehlen(app);
     End(app);
@@ -373,6 +377,7 @@ void SSCommand1_Click(Merkkartelle& app)
 void Hauptmaske_Unload(Merkkartelle& app)
 {
     KartensitzungSchliessen(app);
+    VerlaufSichern(app);
     SitzungZaehlen(app);
     End(app);
 }

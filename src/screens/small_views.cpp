@@ -4,6 +4,7 @@
 #include "screens/conversions.h"
 #include "screens/form2_view.h"
 #include "screens/printing_views.h"
+#include "screens/history_views.h"
 #include "screens/settings_views.h"
 #include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
@@ -157,6 +158,10 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildMalaviewView(forms);
     if (name == QLatin1String("Form6"))
         return buildForm6View(forms);
+    if (name == QLatin1String("replay"))
+        return buildReplayView(forms);
+    if (name == QLatin1String("Aform"))
+        return buildAformView(forms);
     return buildGenericView(forms, name);
 }
 
