@@ -8,6 +8,7 @@
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
+#include "telephony/telephony_handlers.h"
 
 namespace mk {
 
@@ -35,6 +36,10 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Aform);
     forms.add(malaglobalview);
     forms.add(DIALER);
+    forms.add(Form10);
+    forms.add(Form1);
+    forms.add(malatelephone);
+    forms.add(Formtel);
     forms.add(TypenlisteBenutzerdefiniert);
 
     registerAllHandlers(handlers);
@@ -51,6 +56,7 @@ void registerAllHandlers(HandlerTable& table)
     registerGlobalViewHandlers(table);
     registerTypeHandlers(table);
     registerPickListHandlers(table);
+    registerTelephonyHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

@@ -422,8 +422,16 @@ expect Hauptmaske.Label9.Caption STOP
     EXPECT_EQ(never.line, 1);
     EXPECT_EQ(never.text, "expected 4 DoEvents calls got 0");
 
-    const Outcome notRunning = run("after 1 doevents expect Hauptmaske.Tag y\n");
+    // A set-up line cannot wait for a DoEvents; an expect can, and is checked at that moment.
+    const Outcome notRunning = run("after 1 doevents layout\n");
     EXPECT_EQ(notRunning.stop, "fault");
+    EXPECT_HELD(run(R"(
+set Hauptmaske.Label9.Caption ""
+after 2 doevents expect Hauptmaske.Label9.Caption ""
+after 3 doevents click Hauptmaske.Command3D13
+click Hauptmaske.Command3D8
+)"),
+                1);
 }
 
 TEST_F(DriveTest, AnswersAreTakenPerKindInOrder)
