@@ -7,6 +7,7 @@
 #include "platform/user_interface.h"
 #include "support/pty_modem.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -42,6 +43,12 @@ struct ModemSession {
 
     ModemSession()
     {
+        // The serial port wants an application object for its notifiers.
+        static int argc = 1;
+        static char name[] = "merkkartelle-bench";
+        static char* argv[] = {name, nullptr};
+        if (!QCoreApplication::instance())
+            static QCoreApplication application(argc, argv);
         qputenv("MERKKARTELLE_HOME", home.path().toUtf8());
         WritePrivateProfileString(QStringLiteral("Ports"), QStringLiteral("COM1"), modem.device(),
                                   QStringLiteral("MERKKARTELLE.INI"));
