@@ -229,10 +229,7 @@ void KarteInDialer(Merkkartelle& app)
     d.Text6.Text = m.feld[14].Text;
     d.Text1.Text = m.feld[5].Text + QLatin1Char(' ') + m.feld[4].Text;
     d.Text2.Text = m.LaufendeNummer.Caption;
-    const QString nummern[] = {m.feld[14].Text, m.feld[15].Text, m.feld[17].Text, m.tel1.Text,
-                               m.tel2.Text,     m.tel3.Text,     m.tel4.Text};
-    for (int i = 0; i < 7; ++i)
-        d.Dialnumber[i].Caption = OhneVorwahl(nummern[i], app.config.Text2.Text);
+    KartennummernInDialer(app);
 }
 
 QString TypAusMaske(const Merkkartelle& app)

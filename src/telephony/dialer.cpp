@@ -265,6 +265,15 @@ QString OhneVorwahl(const QString& nummer, const QString& vorwahl)
     return nummer;
 }
 
+void KartennummernInDialer(M& app)
+{
+    const Hauptmaske& m = app.Hauptmaske;
+    const QString nummern[] = {m.feld[14].Text, m.feld[15].Text, m.feld[17].Text, m.tel1.Text,
+                               m.tel2.Text,     m.tel3.Text,     m.tel4.Text};
+    for (int i = 0; i < 7; ++i)
+        app.DIALER.Dialnumber[i].Caption = OhneVorwahl(nummern[i], app.config.Text2.Text);
+}
+
 void DialerOeffnen(M& app)
 {
     DIALER& d = app.DIALER;
@@ -276,10 +285,7 @@ void DialerOeffnen(M& app)
     d.Text2.Text = m.LaufendeNummer.Caption;
     DIALER_Text2_Change(app);
     programmklang(app, "mapa.wav");
-    const QString nummern[] = {m.feld[14].Text, m.feld[15].Text, m.feld[17].Text, m.tel1.Text,
-                               m.tel2.Text,     m.tel3.Text,     m.tel4.Text};
-    for (int i = 0; i < 7; ++i)
-        d.Dialnumber[i].Caption = OhneVorwahl(nummern[i], app.config.Text2.Text);
+    KartennummernInDialer(app);
     showForm(app, d);
 }
 

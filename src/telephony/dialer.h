@@ -16,6 +16,9 @@ struct EventArgs;
 // The number without the user's own area code (config.Text2), when it starts with it.
 QString OhneVorwahl(const QString& nummer, const QString& vorwahl);
 
+// The card's seven numbers on Dialnumber(0..6): Telefon, Telefax, Celphone, TEL1 to TEL4,
+// each without the own area code.
+void KartennummernInDialer(Merkkartelle& app);
 // Hauptmaske.Command3D3: the current card into the dialer, which opens.
 void DialerOeffnen(Merkkartelle& app);
 // A key in a telephone slot of the mask: that number into the dialer, which opens.
