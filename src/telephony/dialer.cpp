@@ -194,7 +194,9 @@ void Warteschleife(M& app, Warten art)
         if (wartend == 0)
             d.Comm1.waitForInput(kPortWarteMs);
     }
-    --d.Schleifen;
+    // An unload during the wait has given the form a fresh count already.
+    if (d.Schleifen > 0)
+        --d.Schleifen;
 }
 
 // The hang-up, after a click on Abrir (vomAbrir) or at the end of a wait loop.

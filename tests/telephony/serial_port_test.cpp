@@ -4,22 +4,13 @@
 #include "platform/serial_port.h"
 #include "platform/profile.h"
 #include "support/pty_modem.h"
+#include "support/runtime_errors.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace mk::test {
 namespace {
-
-int errorOf(const std::function<void()>& step)
-{
-    try {
-        step();
-    } catch (const RuntimeError& e) {
-        return e.Number;
-    }
-    return 0;
-}
 
 class SerialPortTest : public ::testing::Test {
 protected:
