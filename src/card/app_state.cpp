@@ -11,6 +11,7 @@
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
+#include "telephony/telephony_handlers.h"
 
 namespace mk {
 
@@ -40,6 +41,10 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Aform);
     forms.add(malaglobalview);
     forms.add(DIALER);
+    forms.add(Form10);
+    forms.add(Form1);
+    forms.add(malatelephone);
+    forms.add(Formtel);
     forms.add(TypenlisteBenutzerdefiniert);
 
     // The type names a first start shows are the names every list takes and the first end
@@ -66,6 +71,7 @@ void registerAllHandlers(HandlerTable& table)
     registerTypeHandlers(table);
     registerPickListHandlers(table);
     registerPrintingHandlers(table);
+    registerTelephonyHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

@@ -9,7 +9,9 @@
 
 #include "forms/about_box.h"
 #include "forms/config.h"
+#include "forms/call_log.h"
 #include "forms/dialer.h"
+#include "forms/form10.h"
 #include "forms/aform.h"
 #include "forms/cidadefrm.h"
 #include "forms/etiquet.h"
@@ -34,6 +36,7 @@
 #include "forms/timers.h"
 #include "platform/clock.h"
 #include "platform/printer.h"
+#include "platform/serial_port.h"
 #include "platform/store.h"
 #include "platform/user_interface.h"
 
@@ -50,6 +53,10 @@ struct Merkkartelle {
 
     UserInterface& ui;
     Clock& clock;
+    // The serial ports behind the dialer's Comm1: this machine's devices, unless a test or
+    // the driver puts its own in.
+    DeviceSerialPorts deviceSerialPorts;
+    SerialPorts* serialPorts = &deviceSerialPorts;
 
     // --- the database session -------------------------------------------------------------
     DatabasePtr Kartendatenbank;
@@ -128,6 +135,10 @@ struct Merkkartelle {
     mk::Aform Aform;
     mk::malaglobalview malaglobalview;
     mk::DIALER DIALER;
+    mk::Form10 Form10;
+    mk::Form1 Form1;
+    mk::malatelephone malatelephone;
+    mk::Formtel Formtel;
     mk::TypenlisteBenutzerdefiniert TypenlisteBenutzerdefiniert;
 
     // The Printer and the drawing surfaces of the forms.

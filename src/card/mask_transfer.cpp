@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
+#include "telephony/dialer.h"
 
 #include <QImageReader>
 #include <functional>
@@ -231,13 +232,13 @@ void KarteInDialer(Merkkartelle& app)
 {
     const auto& m = app.Hauptmaske;
     auto& d = app.DIALER;
+    // A call in progress keeps its number and name.
+    if (d.Schleifen > 0)
+        return;
     d.Text6.Text = m.feld[14].Text;
     d.Text1.Text = m.feld[5].Text + QLatin1Char(' ') + m.feld[4].Text;
     d.Text2.Text = m.LaufendeNummer.Caption;
-    const QString nummern[] = {m.feld[14].Text, m.feld[15].Text, m.feld[17].Text, m.tel1.Text,
-                               m.tel2.Text,     m.tel3.Text,     m.tel4.Text};
-    for (int i = 0; i < 7; ++i)
-        d.Dialnumber[i].Caption = nummern[i];
+    KartennummernInDialer(app);
 }
 
 QString TypAusMaske(const Merkkartelle& app)

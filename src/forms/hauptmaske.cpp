@@ -295,6 +295,7 @@ Hauptmaske::Hauptmaske()
     menu(malaprint, "Etiketten drucken", "menulisten");
     menu(DBGitterListe, "Datenbankliste", "menulisten");
     menu(menuvalor, "Summe Wert", "menulisten");
+    menu(menutelefon, "Telefonliste", "menulisten");
     menu(menuoptionen, "E&instellungen");
     menu(menuconfig, "Einstellungen", "menuoptionen");
     menu(menutipo, "Typ festlegen", "menuoptionen");

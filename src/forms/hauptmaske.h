@@ -77,7 +77,7 @@ struct Hauptmaske : Form {
     MenuItem dbaction, abrirdmb, fechardb, newdb, compactar, confimp, saidapr;
     MenuItem MenuCadastro, menucopy, Menucolar, menuapagar, copiardb, Multicopy;
     MenuItem infoprint, BemDruck, printzusatzdaten;
-    MenuItem menulisten, menumaladata, malaprint, DBGitterListe, menuvalor;
+    MenuItem menulisten, menumaladata, malaprint, DBGitterListe, menuvalor, menutelefon;
     MenuItem menuoptionen, menuconfig, menutipo, menusenha, menuetqconf, abrirdenominacao, salvarden;
     MenuItem menuwerkzeuge, menuauto, menusilabas, progshow;
 
@@ -254,6 +254,7 @@ struct Hauptmaske : Form {
         v("malaprint", malaprint);
         v("DBGitterListe", DBGitterListe);
         v("menuvalor", menuvalor);
+        v("menutelefon", menutelefon);
         v("menuoptionen", menuoptionen);
         v("menuconfig", menuconfig);
         v("menutipo", menutipo);

@@ -229,6 +229,62 @@ void drawDial(QPainter& p)  // a telephone receiver
     p.drawPoint(QPointF(25, 25));
 }
 
+// The dialer's states on Abrir: the receiver resting on its cradle, lifted off it, and
+// lifted with the sound waves of dialling.
+void drawReceiver(QPainter& p, const QColor& colour, double lift)
+{
+    QPainterPath handle;
+    handle.moveTo(5, 12 - lift);
+    handle.cubicTo(10, 7 - lift, 22, 7 - lift, 27, 12 - lift);
+    pen(p, colour, 5);
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(handle);
+    pen(p, colour, 7);
+    p.drawPoint(QPointF(5, 13 - lift));
+    p.drawPoint(QPointF(27, 13 - lift));
+}
+
+void drawCradle(QPainter& p)
+{
+    pen(p, kInk, 1.5);
+    p.setBrush(kPaper);
+    p.drawRoundedRect(QRectF(6, 17, 20, 11), 3, 3);
+    p.setBrush(kInk);
+    for (int r = 0; r < 2; ++r)
+        for (int c = 0; c < 3; ++c)
+            p.drawEllipse(QPointF(11 + c * 5, 21 + r * 4), 0.9, 0.9);
+}
+
+void drawHookOn(QPainter& p)
+{
+    drawCradle(p);
+    drawReceiver(p, kGreen, 0);
+}
+
+void drawHookOff(QPainter& p)
+{
+    drawCradle(p);
+    drawReceiver(p, kRed, 6);
+}
+
+void drawDialling(QPainter& p)
+{
+    drawCradle(p);
+    drawReceiver(p, kBlue, 6);
+    pen(p, kBlue, 1.5);
+    p.drawArc(QRectF(20, 0, 10, 10), -30 * 16, 120 * 16);
+    p.drawArc(QRectF(17, -3, 16, 16), -30 * 16, 120 * 16);
+}
+
+void drawReset(QPainter& p, const QColor& colour)  // a turning arrow
+{
+    pen(p, colour, 3);
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(6, 6, 20, 20), 60 * 16, 280 * 16);
+    p.setBrush(colour);
+    p.drawPolygon(QPolygonF({{21, 2}, {27, 8}, {19, 10}}));
+}
+
 void drawTypes(QPainter& p)  // a tag
 {
     pen(p, kInk, 1.5);
@@ -262,6 +318,11 @@ const std::map<QString, Draw>& drawings()
         {QStringLiteral("program"), drawGear},
         {QStringLiteral("dial"), drawDial},
         {QStringLiteral("types"), drawTypes},
+        {QStringLiteral("hook_on"), drawHookOn},
+        {QStringLiteral("hook_off"), drawHookOff},
+        {QStringLiteral("dialling"), drawDialling},
+        {QStringLiteral("reset1"), [](QPainter& p) { drawReset(p, kGreen); }},
+        {QStringLiteral("reseting"), [](QPainter& p) { drawReset(p, kYellow); }},
     };
     return table;
 }

@@ -6,6 +6,7 @@
 #include "screens/printing_views.h"
 #include "screens/history_views.h"
 #include "screens/settings_views.h"
+#include "screens/telephony_views.h"
 #include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
 #include "screens/views.h"
@@ -162,6 +163,16 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildReplayView(forms);
     if (name == QLatin1String("Aform"))
         return buildAformView(forms);
+    if (name == QLatin1String("DIALER"))
+        return buildDialerView(forms);
+    if (name == QLatin1String("Form10"))
+        return buildForm10View(forms);
+    if (name == QLatin1String("Form1"))
+        return buildForm1View(forms);
+    if (name == QLatin1String("malatelephone"))
+        return buildMalatelephoneView(forms);
+    if (name == QLatin1String("Formtel"))
+        return buildFormtelView(forms);
     return buildGenericView(forms, name);
 }
 

@@ -7,6 +7,7 @@
 #include "platform/profile.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
+#include "support/runtime_errors.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,15 +18,7 @@
 namespace mk {
 namespace {
 
-int errorOf(const std::function<void()>& step)
-{
-    try {
-        step();
-    } catch (const RuntimeError& e) {
-        return e.Number;
-    }
-    return 0;
-}
+using test::errorOf;
 
 // Sets an environment variable for one test and puts the old value back.
 class ScopedEnv {

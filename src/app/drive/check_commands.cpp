@@ -68,6 +68,8 @@ void Interpreter::expect(const ScriptLine& line)
         expectEnded(line);
     else if (what.is("cards"))
         expectCards(line);
+    else if (what.is("modem"))
+        expectModem(line);
     else
         expectProperty(line);
 }
@@ -168,6 +170,15 @@ void Interpreter::expectCards(const ScriptLine& line)
         fault(QStringLiteral("expect cards: %1").arg(e.Description));
     }
     check(got == wanted, QString::number(wanted), QString::number(got));
+}
+
+void Interpreter::expectModem(const ScriptLine& line)
+{
+    need(line, 4, "expect modem COMn TEXT");
+    SimulatedModem& modem = modems_.modem(comPort(line.tokens[2]));
+    const QString got = QString::fromLatin1(std::exchange(modem.written, QByteArray()));
+    const QString& wanted = line.tokens[3].text;
+    check(got == wanted, quotedValue(wanted), quotedValue(got));
 }
 
 }  // namespace mk::drive

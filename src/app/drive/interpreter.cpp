@@ -36,8 +36,11 @@ bool isAbsolute(const QString& path)
 }  // namespace
 
 Interpreter::Interpreter(std::vector<ScriptLine> lines, Merkkartelle& app, ScriptedUserInterface& ui)
-    : lines_(std::move(lines)), app_(app), ui_(ui), ended_(app.ended)
+    : lines_(std::move(lines)), app_(app), ui_(ui), ended_(app.ended), modems_(*app.serialPorts),
+      devices_(app.serialPorts)
 {
+    app_.serialPorts = &modems_;
+    modems_.onIdleWait = [this](int port) { onIdleWait(port); };
     ui_.modalLoop = [this](const QString& form, const std::function<bool()>& stillShown) {
         modalLoop(form, stillShown);
     };
@@ -51,6 +54,7 @@ Interpreter::~Interpreter()
 {
     ui_.modalLoop = nullptr;
     ui_.onDoEvents = nullptr;
+    app_.serialPorts = devices_;
 }
 
 const std::vector<Interpreter::Command>& Interpreter::commands()
@@ -78,6 +82,7 @@ const std::vector<Interpreter::Command>& Interpreter::commands()
         {"wait", Phase::Running, &Interpreter::wait},
         {"set", Phase::Running, &Interpreter::set},
         {"after", Phase::Running, &Interpreter::after},
+        {"modem", Phase::Running, &Interpreter::modem},
         {"answer", Phase::Answer, &Interpreter::answer},
         {"expect", Phase::Check, &Interpreter::expect},
     };
@@ -114,6 +119,7 @@ int Interpreter::run()
 void Interpreter::execute(const ScriptLine& line)
 {
     LineScope scope(currentLine_, line.number);
+    idleWaits_ = 0;
     const Command* c = command(line.tokens.front());
     if (!c)
         fault(QStringLiteral("unknown command %1").arg(quotedValue(line.tokens.front().text)));

@@ -10,10 +10,12 @@
 // SystemFailure (faults.h).
 
 #include "app/drive/script_lexer.h"
+#include "app/drive/simulated_modems.h"
 #include "card/app_state.h"
 
 #include <QString>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace mk::drive {
@@ -95,6 +97,9 @@ private:
     void wait(const ScriptLine& line);
     void set(const ScriptLine& line);
     void after(const ScriptLine& line);
+    void modem(const ScriptLine& line);
+    int comPort(const Token& token) const;
+    void onIdleWait(int port);
     void simpleEvent(const ScriptLine& line, const char* usage, const char* event, int button = 0);
     void typeKey(const QString& path, int keyAscii);
 
@@ -110,6 +115,7 @@ private:
     void expectPresence(const ScriptLine& line, bool present);
     void expectEnded(const ScriptLine& line);
     void expectCards(const ScriptLine& line);
+    void expectModem(const ScriptLine& line);
     void check(bool held, const QString& expected, const QString& got);
 
     std::vector<ScriptLine> lines_;
@@ -122,6 +128,9 @@ private:
     bool ended_ = false;
     std::size_t boxesSeen_ = 0;
     std::vector<PendingLine> pending_;
+    SimulatedSerialPorts modems_;
+    SerialPorts* devices_ = nullptr;  // the system's own serial service, given back at the end
+    int idleWaits_ = 0;               // waits on a silent simulated port with nothing queued
 };
 
 }  // namespace mk::drive

@@ -271,4 +271,48 @@ void Interpreter::after(const ScriptLine& line)
     pending_.push_back({n, ui_.doEventsCalls, std::move(inner)});
 }
 
+// modem COMn, modem COMn reply TEXT, modem COMn send TEXT, modem COMn busy.
+void Interpreter::modem(const ScriptLine& line)
+{
+    const char* usage = "modem COMn [reply TEXT | send TEXT | busy]";
+    if (line.tokens.size() < 2)
+        fault(QStringLiteral("usage: %1").arg(QLatin1String(usage)));
+    SimulatedModem& modem = modems_.modem(comPort(line.tokens[1]));
+    if (line.tokens.size() == 2)
+        return;
+    const Token& what = line.tokens[2];
+    if (what.is("busy") && line.tokens.size() == 3)
+        modem.busy = true;
+    else if (what.is("reply") && line.tokens.size() == 4)
+        modem.replies.push_back(line.tokens[3].text.toLatin1());
+    else if (what.is("send") && line.tokens.size() == 4)
+        modem.toProgram += line.tokens[3].text.toLatin1();
+    else
+        fault(QStringLiteral("usage: %1").arg(QLatin1String(usage)));
+}
+
+int Interpreter::comPort(const Token& token) const
+{
+    const QString name = token.text.toUpper();
+    bool ok = false;
+    const int port = name.startsWith(QLatin1String("COM")) ? name.mid(3).toInt(&ok) : 0;
+    if (!ok || port < 1 || port > 5)
+        fault(QStringLiteral("a port is COM1 to COM5, not %1").arg(quotedValue(token.text)));
+    return port;
+}
+
+// A program that sleeps on a silent simulated modem, with no line queued for a later
+// DoEvents, would wait for ever: the script has to say how the wait ends.
+void Interpreter::onIdleWait(int port)
+{
+    constexpr int kGrenze = 10000;
+    if (!pending_.empty()) {
+        idleWaits_ = 0;
+        return;
+    }
+    if (++idleWaits_ > kGrenze)
+        fault(QStringLiteral("the program waits on the silent modem COM%1 and nothing in the script ends the "
+                             "wait (after N doevents)").arg(port));
+}
+
 }  // namespace mk::drive
