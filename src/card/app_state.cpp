@@ -5,6 +5,11 @@
 #include "card/main_window.h"
 #include "card/notice.h"
 #include "history/global_view.h"
+#include "search/field_selection.h"
+#include "search/full_search.h"
+#include "search/grid_search.h"
+#include "search/quick_search.h"
+#include "search/syllable_search.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
@@ -30,6 +35,8 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Procurar);
     forms.add(replay);
     forms.add(search);
+    forms.add(Gitter);
+    forms.add(Selektierung);
     forms.add(Cidadefrm);
     forms.add(frmExport);
     forms.add(Aform);
@@ -51,6 +58,11 @@ void registerAllHandlers(HandlerTable& table)
     registerGlobalViewHandlers(table);
     registerTypeHandlers(table);
     registerPickListHandlers(table);
+    registerQuickSearchHandlers(table);
+    registerFullSearchHandlers(table);
+    registerGridSearchHandlers(table);
+    registerFieldSelectionHandlers(table);
+    registerSyllableSearchHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

@@ -1,6 +1,7 @@
 #include "card/edit_clipboard.h"
 
 #include "card/app_state.h"
+#include "search/field_selection.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
 
@@ -122,6 +123,8 @@ void Command3D23_Click(Merkkartelle& app)
 {
     if (bearbeitungOffen(app))
         Ausschneiden(app);
+    else if (!bildschutzSichtbar(app))
+        SelektionBearbeiten(app);
 }
 
 void Command3D25_Click(Merkkartelle& app)

@@ -10,7 +10,10 @@ Suchergebnis::Suchergebnis()
     KeyPreview = true;
     Command1.Caption = QStringLiteral("Abbrechen");
     Check1.Caption = QStringLiteral("Vorschau");
+    ok.Caption = QStringLiteral("OK");
+    ok.Enabled = false;
     Label2.Visible = false;
+    SSCommand1.Visible = false;  // printing the list comes with the printing
     nameControls(*this, "Suchergebnis");
 }
 
@@ -20,8 +23,10 @@ Procurar::Procurar()
     Width = 7200;
     Height = 4800;
     KeyPreview = true;
-    Command1.Caption = QStringLiteral("Abbrechen");
+    Command1.Caption = QStringLiteral("OK");
+    Command1.Enabled = false;
     Command2.Caption = QStringLiteral("Abbrechen");
+    SSCommand1.Visible = false;  // printing the list comes with the printing
     nameControls(*this, "Procurar");
 }
 

@@ -3,6 +3,7 @@
 #include "screens/cidadefrm_view.h"
 #include "screens/conversions.h"
 #include "screens/form2_view.h"
+#include "screens/search_views.h"
 #include "screens/settings_views.h"
 #include "screens/typenliste_view.h"
 #include "screens/view_builder.h"
@@ -137,6 +138,18 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildTypenlisteBenutzerdefiniertView(forms);
     if (name == QLatin1String("Cidadefrm"))
         return buildCidadefrmView(forms);
+    if (name == QLatin1String("Schnellsuchen"))
+        return buildSchnellsuchenView(forms);
+    if (name == QLatin1String("Suchergebnis"))
+        return buildSuchergebnisView(forms);
+    if (name == QLatin1String("Procurar"))
+        return buildProcurarView(forms);
+    if (name == QLatin1String("Gitter"))
+        return buildGitterView(forms);
+    if (name == QLatin1String("Selektierung"))
+        return buildSelektierungView(forms);
+    if (name == QLatin1String("search"))
+        return buildSearchView(forms);
     return buildGenericView(forms, name);
 }
 
