@@ -180,26 +180,23 @@ void fieldSelection(benchmark::State& state)
           sql("SELECT rowid FROM Adressenstamm WHERE Stadt LIKE 'Berlin' ORDER BY Nachname COLLATE NOCASE"), false);
 }
 
-const bool registered = [] {
-    for (const QString& part : qEnvironmentVariable("MK_BENCH_SIZES", QStringLiteral("10000,100000,1000000"))
-                                   .split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-        const int size = part.trimmed().toInt();
-        if (size <= 0)
-            continue;
-        const std::pair<const char*, void (*)(benchmark::State&)> runs[] = {
-            {"search/field", fieldSearch},       {"search/full_word", fullSearch},
-            {"search/full_empty", fullSearchEmpty}, {"search/grid", gridSearch},
-            {"search/syllables", syllableSearch}, {"search/selection", fieldSelection},
-        };
+void registerSearches(const std::vector<int>& sizes)
+{
+    const std::pair<const char*, void (*)(benchmark::State&)> runs[] = {
+        {"search/field", fieldSearch},          {"search/full_word", fullSearch},
+        {"search/full_empty", fullSearchEmpty}, {"search/grid", gridSearch},
+        {"search/syllables", syllableSearch},   {"search/selection", fieldSelection},
+    };
+    for (const int size : sizes)
         for (const auto& [name, run] : runs)
             benchmark::RegisterBenchmark(name, run)
                 ->Arg(size)
                 ->UseManualTime()
                 ->Unit(benchmark::kMillisecond)
                 ->Iterations(std::max(iterationsFor(size), 3));
-    }
-    return true;
-}();
+}
+
+const bool registered = forEachSize(registerSearches);
 
 }  // namespace
 

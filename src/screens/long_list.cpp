@@ -11,6 +11,26 @@ namespace {
 
 // The same line when both share one text and one number: a copy shares its text's data,
 // and any change of the text gives it data of its own.
+// A tab goes to the next stop of eight characters, as in a list box of the old forms; the
+// lists show in a fixed-width font, so the columns of their lines stand under each other.
+QString expandTabs(const QString& text)
+{
+    if (!text.contains(QLatin1Char('\t')))
+        return text;
+    QString out;
+    out.reserve(text.size() + 16);
+    for (const QChar c : text) {
+        if (c != QLatin1Char('\t')) {
+            out += c;
+            continue;
+        }
+        do
+            out += QLatin1Char(' ');
+        while (out.size() % 8 != 0);
+    }
+    return out;
+}
+
 bool sameLine(const ListItem& a, const ListItem& b)
 {
     return a.ItemData == b.ItemData && a.Text.size() == b.Text.size()
@@ -28,8 +48,8 @@ QVariant ListLinesModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= int(lines_.size()))
         return {};
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-        return lines_[std::size_t(index.row())].Text;
+    if (role == Qt::DisplayRole)
+        return expandTabs(lines_[std::size_t(index.row())].Text);
     return {};
 }
 
@@ -50,6 +70,7 @@ LongListView::LongListView(QWidget* parent) : QListView(parent), model_(new List
 {
     setModel(model_);
     setUniformItemSizes(true);  // a million lines lay out at once
+    setTextElideMode(Qt::ElideNone);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,

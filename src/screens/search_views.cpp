@@ -119,9 +119,7 @@ FormWindow* buildProcurarView(FormRegistry& forms)
     head->addWidget(b.valueLabel(QStringLiteral("Label2"), 60));
     v->addLayout(head);
     v->addWidget(longList(b, QStringLiteral("Suchergebnisliste")), 1);
-    v->addWidget(b.make(QStringLiteral("Label4")));
-    v->addWidget(b.make(QStringLiteral("Label6")));
-    v->addLayout(buttonRow(b, {}, {"Command1", "Command2"}));
+    v->addLayout(buttonRow(b, {"Label4", "Label6"}, {"Command1", "Command2"}));
     window->setMinimumSize(520, 320);  // the list and its buttons follow down to this size
     return window;
 }

@@ -66,6 +66,25 @@ QString Silbenspalte(int option)
     return option >= 0 && option < int(kSpalten.size()) ? QString::fromLatin1(kSpalten[std::size_t(option)]) : QString();
 }
 
+QString Silbenbedingung(const QString& spalte, const QString& teil)
+{
+    // The text stands for itself: the wildcards of LIKE are bracketed, quotes doubled.
+    QString muster;
+    for (const QChar c : teil) {
+        if (c == QLatin1Char('*') || c == QLatin1Char('?') || c == QLatin1Char('#') || c == QLatin1Char('['))
+            muster += QLatin1Char('[') + c + QLatin1Char(']');
+        else if (c == QLatin1Char('\''))
+            muster += QStringLiteral("''");
+        else
+            muster += c;
+    }
+    QString bedingung = QLatin1Char('[') + spalte + QStringLiteral("] LIKE '*") + muster + QStringLiteral("*'");
+    // A Null field reads as "*", which holds the text "*".
+    if (SilbeEnthalten(QStringLiteral("*"), teil))
+        bedingung += QStringLiteral(" OR [") + spalte + QStringLiteral("] IS NULL");
+    return bedingung;
+}
+
 bool SilbeEnthalten(const QString& text, const QString& teil)
 {
     // Mid(text, i, n) compared at each place: a part longer than the text never hits.
@@ -99,25 +118,36 @@ void search_Command6_Click(Merkkartelle& app)
     f.Label3.Caption = QStringLiteral("0");
     f.List1.Clear();
 
-    long karten = 0;
+    // The walk counts every card and lets other events in at each; the store finds the
+    // cards that hold the text, so that only those are read.
     long treffer = 0;
-    // A clone of the cursor is walked, so that the card on the mask keeps its place.
     underIgnoredErrors([&] {
-        const RecordsetPtr klon = kartensatz(app).clone();
-        Recordset& satz = *klon;
-        if (satz.RecordCount() == 0)
-            return;
-        for (satz.MoveFirst(); !satz.IsEOF(); satz.MoveNext()) {
+        const RecordsetPtr karten = kartensatz(app).clone();
+        const RecordsetPtr fund = kartensatz(app).clone();
+        const long anzahl = karten->RecordCount();
+        long naechster = -1;
+        const QString kriterium = spalte.isEmpty() ? QString() : Silbenbedingung(spalte, teil);
+        if (!kriterium.isEmpty() && anzahl > 0)
+            underIgnoredErrors([&] {
+                fund->FindFirst(kriterium);
+                naechster = fund->NoMatch() ? -1 : fund->AbsolutePosition();
+            });
+        for (long karte = 0; karte < anzahl; ++karte) {
             app.ui.DoEvents();
-            const QString nummer = textOderStern(satz, QStringLiteral("Laufendenummer"));
-            const QString feld = spalte.isEmpty() ? QStringLiteral("*") : textOderStern(satz, spalte);
-            if (SilbeEnthalten(feld, teil)) {
+            if (karte == naechster) {
                 f.Label1.Caption = QStringLiteral("Füge Eintag zur Liste hinzu...");
+                const QString nummer = textOderStern(*fund, QStringLiteral("Laufendenummer"));
                 const QString gepolstert = nummer + kNummerFuellung.left(std::max(0, int(kNummerFuellung.size() - nummer.size())));
-                f.List1.Items.push_back(ListItem{gepolstert + QLatin1Char(' ') + person(satz) + feld, long(Val(nummer))});
+                f.List1.Items.push_back(ListItem{gepolstert + QLatin1Char(' ') + person(*fund) + textOderStern(*fund, spalte),
+                                                 long(Val(nummer))});
                 f.Label3.Caption = QString::number(++treffer);
+                naechster = -1;
+                underIgnoredErrors([&] {
+                    fund->FindNext(kriterium);
+                    naechster = fund->NoMatch() ? -1 : fund->AbsolutePosition();
+                });
             }
-            f.Label2.Caption = QString::number(++karten);
+            f.Label2.Caption = QString::number(karte + 1);
             if (f.Label4.Caption == kStop)
                 break;
         }

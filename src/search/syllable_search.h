@@ -11,6 +11,8 @@ class HandlerTable;
 
 // The column that option k of search.Option3D1 searches.
 QString Silbenspalte(int option);
+// The condition of the cards whose column holds teil anywhere, as the walk compares them.
+QString Silbenbedingung(const QString& spalte, const QString& teil);
 // True when text holds teil anywhere, without regard to case and without wildcards.
 bool SilbeEnthalten(const QString& text, const QString& teil);
 

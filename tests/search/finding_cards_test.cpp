@@ -118,6 +118,52 @@ TEST_F(ResultLines, CutToTheLengthsOfTheSettingsWithTheirMark)
     EXPECT_EQ(app.Suchergebnis.Label6.Caption, QStringLiteral("2"));
 }
 
+class Syllables : public CardSession {
+protected:
+    void SetUp() override
+    {
+        CardSession::SetUp();
+        const QVariant namen[] = {QStringLiteral("a*b"), QStringLiteral("O'Neil"), QStringLiteral("[x] #1?"),
+                                  QStringLiteral("Straße"), QStringLiteral("Weinberg"), QVariant(), QStringLiteral("ab")};
+        for (const QVariant& name : namen)
+            card({{"Nachname", name}, {"Vorname", "V"}});
+        reopen();
+        raiseEvent(app, QStringLiteral("Hauptmaske.menusilabas"), QStringLiteral("Click"));
+    }
+    // The numbers the walk lists for a text in the surname.
+    QStringList gefunden(const QString& text)
+    {
+        app.search.Text2.Text = text;
+        search_Command6_Click(app);
+        QStringList nummern;
+        for (const ListItem& zeile : app.search.List1.Items)
+            nummern << QString::number(zeile.ItemData);
+        return nummern;
+    }
+    // The same by the old comparison, card after card, Null read as "*".
+    QStringList verglichen(const QString& text)
+    {
+        QStringList nummern;
+        auto rs = app.Kartensatz->clone();
+        for (rs->MoveFirst(); !rs->IsEOF(); rs->MoveNext()) {
+            const QVariant v = rs->Fields(QStringLiteral("Nachname")).Value();
+            if (SilbeEnthalten(v.isValid() ? v.toString() : QStringLiteral("*"), text))
+                nummern << rs->Fields(QStringLiteral("Laufendenummer")).text();
+        }
+        return nummern;
+    }
+};
+
+TEST_F(Syllables, TheStoreFindsWhatTheOldComparisonFound)
+{
+    for (const char* text : {"*", "?", "#", "[", "[x]", "'", "o'n", "B", "INBE", "ss", "ß", "a*", "b*"}) {
+        const QString t = QString::fromUtf8(text);
+        EXPECT_EQ(gefunden(t), verglichen(t)) << text;
+        EXPECT_EQ(app.search.Label2.Caption, QStringLiteral("7")) << text;
+        EXPECT_EQ(app.search.Label3.Caption, QString::number(verglichen(t).size())) << text;
+    }
+}
+
 class ReadOnlyFile : public CardSession {
 protected:
     void SetUp() override
