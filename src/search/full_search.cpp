@@ -4,6 +4,7 @@
 #include "card/card_cursor.h"
 #include "card/focus.h"
 #include "card/notice.h"
+#include "platform/jet_expression.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
 #include "search/grid_search.h"
@@ -11,6 +12,7 @@
 #include "search/search_fields.h"
 
 #include <QStringList>
+#include <vector>
 
 namespace mk {
 
@@ -78,23 +80,59 @@ void alleKartenListen(Merkkartelle& app, ListBox& liste)
     });
 }
 
+// LEFT(value, n) = text as the store compares it: Null never, a number as its text.
+bool beginntMit(const QVariant& wert, const QString& text)
+{
+    if (!wert.isValid())
+        return false;
+    const QString w = wert.typeId() == QMetaType::LongLong || wert.typeId() == QMetaType::Int
+        ? jet::numberAsText(wert.toLongLong())
+        : wert.toString();
+    return jet::compareText(w.left(text.size()), text) == 0;
+}
+
+// A card that begins with the text in some field: its number and the line of each field
+// that matches (empty for the others), read once.
+struct Kandidat {
+    long nummer = 0;
+    QStringList zeilen;
+};
+
 // Field after field, the cards whose field begins with the text, in the order of the cursor.
+// One find over every field gives the cards that match anywhere; each of them is read once,
+// and the lines are laid out field by field as separate finds per field would give them.
 void felderDurchsuchen(Merkkartelle& app, ListBox& liste, const QString& text)
 {
+    if (kartenzahl(app) == 0)
+        return;
+    QStringList bedingungen;
+    for (int k = 1; k <= kSuchfelder; ++k)
+        bedingungen << Praefixbedingung(Volltextspalte(k), text);
+    const QString irgendwo = bedingungen.join(QStringLiteral(" OR "));
+
+    std::vector<Kandidat> kandidaten;
+    underIgnoredErrors([&] {
+        Recordset& satz = kartensatz(app);
+        satz.FindFirst(irgendwo);
+        while (!satz.NoMatch()) {
+            Kandidat c;
+            c.nummer = nummerVon(satz);
+            for (int k = 1; k <= kSuchfelder; ++k) {
+                QVariant wert;
+                underIgnoredErrors([&] { wert = satz.Fields(ohneKlammern(Volltextspalte(k))).Value(); });
+                c.zeilen << (beginntMit(wert, text) ? trefferzeile(app, satz, k) : QString());
+            }
+            kandidaten.push_back(std::move(c));
+            satz.FindNext(irgendwo);
+        }
+    });
     for (int k = 1; k <= kSuchfelder; ++k) {
         app.Suchfeld = k;
         app.Suchtext = text;
-        if (kartenzahl(app) == 0)
-            return;
-        app.Suchkriterium = Praefixbedingung(Volltextspalte(k), app.Suchtext);
-        underIgnoredErrors([&] {
-            Recordset& satz = kartensatz(app);
-            satz.FindFirst(app.Suchkriterium);
-            while (!satz.NoMatch()) {
-                zeileAnhaengen(liste, trefferzeile(app, satz, k), nummerVon(satz));
-                satz.FindNext(app.Suchkriterium);
-            }
-        });
+        app.Suchkriterium = bedingungen[k - 1];
+        for (const Kandidat& c : kandidaten)
+            if (!c.zeilen[k - 1].isEmpty())
+                zeileAnhaengen(liste, c.zeilen[k - 1], c.nummer);
     }
 }
 

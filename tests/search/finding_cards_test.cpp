@@ -164,6 +164,50 @@ TEST_F(Syllables, TheStoreFindsWhatTheOldComparisonFound)
     }
 }
 
+class FullSearch : public CardSession {
+protected:
+    void SetUp() override
+    {
+        CardSession::SetUp();
+        card({{"Nachname", "Straße"}, {"Vorname", "strasse"}, {"Firma", "STRASSENBAU "}, {"Strasse", "Str"}});
+        card({{"Nachname", "Äpfel"}, {"Vorname", "Apfel"}, {"Firma", QVariant()}, {"Bemerkung", "apfelbaum"}});
+        card({{"Nachname", "12"}, {"Telefon", "123"}, {"PLZ", "12 "}, {"C1", "12@x"}});
+        card({{"Nachname", "Zander"}, {"Staatsregister", "Z-1"}, {"Firmenregisternummer", "z"}, {"Telex", "zbild"}});
+        reopen();
+    }
+    // Field and number of each line, as separate finds per field give them.
+    QStringList feldweise(const QString& text)
+    {
+        QStringList erwartet;
+        auto rs = app.Kartensatz->clone();
+        for (int k = 1; k <= kSuchfelder; ++k) {
+            const QString kriterium = Praefixbedingung(Volltextspalte(k), text);
+            for (rs->FindFirst(kriterium); !rs->NoMatch(); rs->FindNext(kriterium))
+                erwartet << Volltextspalte(k) + QLatin1Char(' ') + rs->Fields(QStringLiteral("Laufendenummer")).text();
+        }
+        return erwartet;
+    }
+    QStringList gelistet(const QString& text)
+    {
+        app.Hauptmaske.Text1.Text = text;
+        Volltextsuche(app);
+        QStringList zeilen;
+        for (const ListItem& z : app.Procurar.Suchergebnisliste.Items)
+            zeilen << z.Text.section(QStringLiteral("   "), 0, 0) + QLatin1Char(' ') + QString::number(z.ItemData);
+        return zeilen;
+    }
+};
+
+TEST_F(FullSearch, OneFindOverAllFieldsListsWhatAFindPerFieldListed)
+{
+    for (const char* text : {"stra", "Straß", "strass", "apfel", "äpf", "12", "1", "z", "Z-", "zb"}) {
+        const QString t = QString::fromUtf8(text);
+        EXPECT_EQ(gelistet(t), feldweise(t)) << text;
+    }
+    EXPECT_EQ(feldweise(QStringLiteral("stra")).size(), 3);  // the firm, the first name, the surname
+    EXPECT_EQ(app.Suchfeld, kSuchfelder);
+}
+
 class ReadOnlyFile : public CardSession {
 protected:
     void SetUp() override
