@@ -333,8 +333,13 @@ DatabasePtr Database::open(const QString& path, bool exclusive, bool readOnly)
     if (rc != SQLITE_OK)
         conn->fail(rc);
     conn->readOnly = readOnly || sqlite3_db_readonly(conn->db, "main") == 1;
-    if (!conn->readOnly)
+    if (!conn->readOnly) {
+        // A rollback journal, synced in full at every commit: a card whose save returned is on
+        // the disk, and a write cut by a crash is rolled back at the next open. The database
+        // stays one file, which the backup copies whole.
+        sqlite3_exec(conn->db, "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
         store::addMissingKeyIndexes(conn->db);
+    }
 
     DatabasePtr db(new Database());
     db->d->conn = std::move(conn);
