@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "card/card_cursor.h"
+#include "card/card_record.h"
 #include "card/mask_transfer.h"
 #include "platform/paths.h"
 #include "platform/store.h"
@@ -91,18 +92,12 @@ std::vector<long> kartenJeWert(Merkkartelle& app, const QString& spalte, const Q
 
 QStringList Selektionsspalten()
 {
-    return {QStringLiteral("Schluessel"), QStringLiteral("Titel"), QStringLiteral("Firma"),
-            QStringLiteral("Departament"), QStringLiteral("Nachname"), QStringLiteral("Vorname"),
-            QStringLiteral("Strasse"), QStringLiteral("Staat"), QStringLiteral("Stadteil"), QStringLiteral("PLZ"),
-            QStringLiteral("Stadt"), QStringLiteral("Landescod"), QStringLiteral("Land"),
-            QStringLiteral("Geburtstag"), QStringLiteral("Telefon"), QStringLiteral("Telefax"),
-            QStringLiteral("Celphone"), QStringLiteral("Texto"), QStringLiteral("Firmenregisternummer"),
-            QStringLiteral("Staatsregister"), QStringLiteral("Passportnummer"), QStringLiteral("Postfach"),
-            QStringLiteral("Partei"), QStringLiteral("Bank"), QStringLiteral("BankLeitZahl"),
-            QStringLiteral("Kontonummer"), QStringLiteral("C1"), QStringLiteral("C2"), QStringLiteral("C3"),
-            QStringLiteral("C4"), QStringLiteral("Campo1"), QStringLiteral("Campo2"), QStringLiteral("Chamada"),
-            QStringLiteral("Typ"), QStringLiteral("Datum"), QStringLiteral("recdate"),
-            QStringLiteral("Laufendenummer")};
+    // The columns of the card, less the connections and the linked files.
+    QStringList spalten;
+    for (const karte::Spalte& spalte : karte::kSpalten)
+        if (spalte.ort != karte::Ort::FeldA && spalte.ort != karte::Ort::feldB && spalte.ort != karte::Ort::prog)
+            spalten << karte::text(spalte.name);
+    return spalten;
 }
 
 QString Selektionsbedingung(const QString& spalte, const QString& op, const QString& wert)

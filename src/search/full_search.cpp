@@ -10,6 +10,7 @@
 #include "search/grid_search.h"
 #include "search/quick_search.h"
 #include "search/search_fields.h"
+#include "settings/form_places.h"
 
 #include <QStringList>
 #include <vector>
@@ -136,20 +137,9 @@ void felderDurchsuchen(Merkkartelle& app, ListBox& liste, const QString& text)
     }
 }
 
-void procurarPositionMerken(Merkkartelle& app)
-{
-    const auto& f = app.Procurar;
-    app.Einstellungsliste[92] = QString::number(f.Top);
-    app.Einstellungsliste[93] = QString::number(f.Left);
-    app.Einstellungsliste[96] = QString::number(f.Width);
-    app.Einstellungsliste[97] = QString::number(f.Height);
-}
+constexpr Formplatz kProcurarPlatz{92, 93, 97, 96};
 
-void gespeichert(const QString& text, int& ziel)
-{
-    if (!text.trimmed().isEmpty())
-        ziel = int(Val(text));
-}
+void procurarPositionMerken(Merkkartelle& app) { FormplatzMerken(app, app.Procurar, kProcurarPlatz); }
 
 void suchhinweisZeigen(Merkkartelle& app, const QString& text)
 {
@@ -231,10 +221,7 @@ void Volltextsuche(Merkkartelle& app)
 void Procurar_Load(Merkkartelle& app)
 {
     auto& f = app.Procurar;
-    gespeichert(app.Einstellungsliste[92], f.Top);
-    gespeichert(app.Einstellungsliste[93], f.Left);
-    gespeichert(app.Einstellungsliste[96], f.Width);
-    gespeichert(app.Einstellungsliste[97], f.Height);
+    FormplatzNehmen(app, f, kProcurarPlatz);
     f.Suchergebnisliste.Font = app.Hauptmaske.feld[0].Font;
 }
 

@@ -8,6 +8,7 @@
 #include "platform/store.h"
 #include "platform/text_files.h"
 #include "search/search_fields.h"
+#include "settings/form_places.h"
 
 #include <QStringList>
 
@@ -95,34 +96,19 @@ long nummerVon(Recordset& satz)
     return long(Val(wert(satz, QStringLiteral("Laufendenummer"))));
 }
 
-// The form's place is kept in the settings table between two openings.
-void schnellsuchenPositionMerken(Merkkartelle& app)
-{
-    app.Einstellungsliste[58] = QString::number(app.Schnellsuchen.Top);
-    app.Einstellungsliste[59] = QString::number(app.Schnellsuchen.Left);
-}
+// The places of the two forms in the settings table.
+constexpr Formplatz kSchnellsuchenPlatz{58, 59, 0, 0};
+constexpr Formplatz kSuchergebnisPlatz{60, 61, 15, 14};
 
-void suchergebnisPositionMerken(Merkkartelle& app)
-{
-    const auto& f = app.Suchergebnis;
-    app.Einstellungsliste[60] = QString::number(f.Top);
-    app.Einstellungsliste[61] = QString::number(f.Left);
-    app.Einstellungsliste[14] = QString::number(f.Width);
-    app.Einstellungsliste[15] = QString::number(f.Height);
-}
+void schnellsuchenPositionMerken(Merkkartelle& app) { FormplatzMerken(app, app.Schnellsuchen, kSchnellsuchenPlatz); }
+
+void suchergebnisPositionMerken(Merkkartelle& app) { FormplatzMerken(app, app.Suchergebnis, kSuchergebnisPlatz); }
 
 void schnellsuchenSchliessen(Merkkartelle& app)
 {
     schnellsuchenPositionMerken(app);
     app.LetzterSuchtext = app.Schnellsuchen.Suchbegriff.Text;
     unloadForm(app, app.Schnellsuchen);
-}
-
-// A stored size or place; an empty record keeps the design value.
-void gespeichert(const QString& text, int& ziel)
-{
-    if (!text.trimmed().isEmpty())
-        ziel = int(Val(text));
 }
 
 // The direct jump of the number button: found at once, without the result list.
@@ -250,10 +236,8 @@ void NachAdresseSuchen_Click(Merkkartelle& app)
 
 void Schnellsuchen_Load(Merkkartelle& app)
 {
-    auto& f = app.Schnellsuchen;
-    gespeichert(app.Einstellungsliste[58], f.Top);
-    gespeichert(app.Einstellungsliste[59], f.Left);
-    f.Suchbegriff.Text = app.LetzterSuchtext;
+    FormplatzNehmen(app, app.Schnellsuchen, kSchnellsuchenPlatz);
+    app.Schnellsuchen.Suchbegriff.Text = app.LetzterSuchtext;
 }
 
 void Schnellsuchen_Activate(Merkkartelle& app)
@@ -313,14 +297,7 @@ void Schnellsuchen_Suchbegriff_KeyPress(Merkkartelle& app, EventArgs& args)
 
 // ---- Suchergebnis ------------------------------------------------------------------------------
 
-void Suchergebnis_Load(Merkkartelle& app)
-{
-    auto& f = app.Suchergebnis;
-    gespeichert(app.Einstellungsliste[60], f.Top);
-    gespeichert(app.Einstellungsliste[61], f.Left);
-    gespeichert(app.Einstellungsliste[14], f.Width);
-    gespeichert(app.Einstellungsliste[15], f.Height);
-}
+void Suchergebnis_Load(Merkkartelle& app) { FormplatzNehmen(app, app.Suchergebnis, kSuchergebnisPlatz); }
 
 void Suchergebnis_Activate(Merkkartelle& app)
 {
