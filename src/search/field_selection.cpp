@@ -137,6 +137,9 @@ void SelektionAnwenden(Merkkartelle& app, const QString& filter)
     auto& m = app.Hauptmaske;
     if (m.Selektiert.Caption == kSelektierungAktiv && m.Selektiert.Tag == filter)
         return;
+    // The panels say that the selection is being changed until the new cursor stands.
+    m.Selektiert.Caption = kSelektierungWirdGeaendert;
+    app.Selektierung.SSPanel1.Caption = QStringLiteral("Selektierung ändern...");
     // The condition is parsed when the cursor opens: a broken one fails there, and the card
     // file falls back to all cards.
     try {
@@ -150,12 +153,14 @@ void SelektionAnwenden(Merkkartelle& app, const QString& filter)
         underIgnoredErrors([&] { kartensatz(app).MoveFirst(); });
     } catch (const RuntimeError& fehler) {
         app.ui.MsgBox(QString::number(fehler.Number) + kZeilenumbruch + QStringLiteral("Selektierung war erfolglos"));
+        app.Selektierung.SSPanel1.Caption = QStringLiteral("Info");
         KeineSelektion(app);
         return;
     }
     SerienbriefVeraltet(app);
     m.Selektiert.Caption = kSelektierungAktiv;
     m.Selektiert.Tag = filter;
+    app.Selektierung.SSPanel1.Caption = QStringLiteral("Info");
     karteNeuLaden(app);
 }
 

@@ -302,6 +302,13 @@ void registerFullSearchHandlers(HandlerTable& table)
         app.Hauptmaske.Panel3D3.Caption = app.Hauptmaske.Command5.Hint;
     });
     table.on(haupt, QStringLiteral("Text1"), QStringLiteral("KeyPress"), &Text1_KeyPress);
+    table.on(haupt, QStringLiteral("Text1"), QStringLiteral("MouseMove"), [](Merkkartelle& app, EventArgs&) {
+        // With the grid search the box says which pair of fields it searches.
+        if (!app.config.SSCheck11.checked())
+            return;
+        app.Hauptmaske.Text1.Hint = GittersuchHinweis(app);
+        app.Hauptmaske.Panel3D3.Caption = app.Hauptmaske.Text1.Hint;
+    });
     table.on(haupt, QStringLiteral("Text1"), QStringLiteral("GotFocus"), &Text1_GotFocus);
 
     const QString form = QStringLiteral("Procurar");
