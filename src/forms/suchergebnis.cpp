@@ -5,8 +5,8 @@ namespace mk {
 Suchergebnis::Suchergebnis()
 {
     Caption = QStringLiteral("Suchergebniss");
-    Width = 7200;
-    Height = 4800;
+    Width = 10800;  // room for four columns of the list side by side
+    Height = 6000;
     KeyPreview = true;
     Command1.Caption = QStringLiteral("Abbrechen");
     Check1.Caption = QStringLiteral("Vorschau");
@@ -20,8 +20,8 @@ Suchergebnis::Suchergebnis()
 Procurar::Procurar()
 {
     Caption = QStringLiteral("Suchergebniss");
-    Width = 7200;
-    Height = 4800;
+    Width = 10800;  // room for four columns of the list side by side
+    Height = 6000;
     KeyPreview = true;
     Command1.Caption = QStringLiteral("OK");
     Command1.Enabled = false;

@@ -11,8 +11,9 @@ namespace {
 
 // The same line when both share one text and one number: a copy shares its text's data,
 // and any change of the text gives it data of its own.
-// A tab goes to the next stop of eight characters, as in a list box of the old forms; the
-// lists show in a fixed-width font, so the columns of their lines stand under each other.
+// A tab goes to the next stop of 24 characters, past the longest cut value (20 and the cut
+// mark); the lists show in a fixed-width font, so the columns of their lines stand under
+// each other.
 QString expandTabs(const QString& text)
 {
     if (!text.contains(QLatin1Char('\t')))
@@ -26,7 +27,7 @@ QString expandTabs(const QString& text)
         }
         do
             out += QLatin1Char(' ');
-        while (out.size() % 8 != 0);
+        while (out.size() % 24 != 0);
     }
     return out;
 }
