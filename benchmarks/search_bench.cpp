@@ -9,7 +9,6 @@
 #include "bench_support.h"
 
 #include "card/app_state.h"
-#include "platform/paths.h"
 #include "platform/user_interface.h"
 #include "search/field_selection.h"
 #include "search/full_search.h"
@@ -37,15 +36,7 @@ struct SearchSession {
 std::unique_ptr<SearchSession> sortedBySurname(const QString& path)
 {
     auto s = std::make_unique<SearchSession>();
-    Merkkartelle& app = s->app;
-    app.Arbeitsverzeichnis = DateiPfad(path);
-    app.Datenbankdatei = DateiName(path);
-    app.Tabellenname = QStringLiteral("Adressenstamm");
-    app.Sortierfeld = QStringLiteral("Nachname");
-    app.Kartendatenbank = Database::open(path);
-    auto base = app.Kartendatenbank->createDynaset(app.Tabellenname);
-    base->Sort = QStringLiteral("[Nachname]");
-    app.Kartensatz = base->createDynaset();
+    openSortedBySurname(s->app, path);
     // The user's part in the modal forms: the field search asks for the surname, and a result
     // form is left at once; the clock stops as it shows.
     SearchSession* raw = s.get();
