@@ -207,6 +207,10 @@ void Connection::fail(int rc) const
     case SQLITE_NOTADB:
         raise(err::UnrecognizedFormat,
               QStringLiteral("Die Datei %1 ist keine Datenbank oder hat ein unbekanntes Format.").arg(path));
+    case SQLITE_CORRUPT:
+        raise(err::DatabaseDamaged,
+              QStringLiteral("Die Datenbank %1 ist beschädigt und kann nicht gelesen werden (%2). "
+                             "Bitte eine Sicherungskopie verwenden.").arg(path, message));
     default: raise(EngineError, QStringLiteral("Datenbankfehler: %1").arg(message));
     }
 }
