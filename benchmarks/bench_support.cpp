@@ -1,5 +1,7 @@
 #include "bench_support.h"
 
+#include "card/app_state.h"
+#include "platform/paths.h"
 #include "sample_cards.h"
 
 #include <QFile>
@@ -13,6 +15,18 @@ namespace mk::bench {
 double secondsSince(Clock::time_point start)
 {
     return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+void openSortedBySurname(Merkkartelle& app, const QString& path)
+{
+    app.Arbeitsverzeichnis = DateiPfad(path);
+    app.Datenbankdatei = DateiName(path);
+    app.Tabellenname = QStringLiteral("Adressenstamm");
+    app.Sortierfeld = QStringLiteral("Nachname");
+    app.Kartendatenbank = Database::open(path);
+    auto base = app.Kartendatenbank->createDynaset(app.Tabellenname);
+    base->Sort = QStringLiteral("[Nachname]");
+    app.Kartensatz = base->createDynaset();
 }
 
 Session& session(int count)

@@ -9,6 +9,10 @@
 #include <chrono>
 #include <vector>
 
+namespace mk {
+struct Merkkartelle;
+}
+
 namespace mk::bench {
 
 using Clock = std::chrono::steady_clock;
@@ -20,6 +24,10 @@ struct Session {
 };
 // The sample card file of count cards, opened once and read through once to warm the cache.
 Session& session(int count);
+
+// The session as the start leaves it on a sample file: the database open and the cursor of
+// the card table sorted by surname.
+void openSortedBySurname(Merkkartelle& app, const QString& path);
 
 // Runs a plain statement to its end (reading column 0 as text when asked); its seconds.
 double timeSql(const DatabasePtr& db, const jet::Sql& sql, bool readText = false);

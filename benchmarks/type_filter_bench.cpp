@@ -9,7 +9,6 @@
 #include "bench_support.h"
 
 #include "card/app_state.h"
-#include "platform/paths.h"
 #include "platform/user_interface.h"
 
 #include <QDateTime>
@@ -33,15 +32,7 @@ struct ClickSession {
 std::unique_ptr<ClickSession> startedOn(const QString& path)
 {
     auto s = std::make_unique<ClickSession>();
-    Merkkartelle& app = s->app;
-    app.Arbeitsverzeichnis = DateiPfad(path);
-    app.Datenbankdatei = DateiName(path);
-    app.Tabellenname = QStringLiteral("Adressenstamm");
-    app.Sortierfeld = QStringLiteral("Nachname");
-    app.Kartendatenbank = Database::open(path);
-    auto base = app.Kartendatenbank->createDynaset(app.Tabellenname);
-    base->Sort = QStringLiteral("[Nachname]");
-    app.Kartensatz = base->createDynaset();
+    openSortedBySurname(s->app, path);
     return s;
 }
 

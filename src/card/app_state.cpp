@@ -8,6 +8,11 @@
 #include "history/global_view.h"
 #include "printing/label_layout.h"
 #include "history/history_list.h"
+#include "search/field_selection.h"
+#include "search/full_search.h"
+#include "search/grid_search.h"
+#include "search/quick_search.h"
+#include "search/syllable_search.h"
 #include "search/type_marks.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
@@ -36,6 +41,8 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Procurar);
     forms.add(replay);
     forms.add(search);
+    forms.add(Gitter);
+    forms.add(Selektierung);
     forms.add(Cidadefrm);
     forms.add(frmExport);
     forms.add(Aform);
@@ -72,6 +79,11 @@ void registerAllHandlers(HandlerTable& table)
     registerPickListHandlers(table);
     registerPrintingHandlers(table);
     registerTelephonyHandlers(table);
+    registerQuickSearchHandlers(table);
+    registerFullSearchHandlers(table);
+    registerGridSearchHandlers(table);
+    registerFieldSelectionHandlers(table);
+    registerSyllableSearchHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

@@ -19,12 +19,14 @@
 #include "forms/form4.h"
 #include "forms/form6.h"
 #include "forms/frm_export.h"
+#include "forms/gitter.h"
 #include "forms/mala.h"
 #include "forms/malaglobalview.h"
 #include "forms/malasp.h"
 #include "forms/replay.h"
 #include "forms/schnellsuchen.h"
 #include "forms/search.h"
+#include "forms/selektierung.h"
 #include "forms/suchergebnis.h"
 #include "forms/typenliste_benutzerdefiniert.h"
 #include "forms/events.h"
@@ -130,6 +132,8 @@ struct Merkkartelle {
     mk::Procurar Procurar;
     mk::replay replay;
     mk::search search;
+    mk::Gitter Gitter;
+    mk::Selektierung Selektierung;
     mk::Cidadefrm Cidadefrm;
     mk::frmExport frmExport;
     mk::Aform Aform;

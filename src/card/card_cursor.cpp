@@ -39,9 +39,17 @@ bool absteigend(const Merkkartelle& app) { return app.Form3.AZCHECK.Value; }
 
 QString richtungText(bool descending) { return descending ? QStringLiteral("Z - A") : QStringLiteral("A - Z"); }
 
-// The filter of an active selection. The selection form decides between its list of query
-// texts and Selektionsfilter; Selektionsfilter is the one the system keeps.
-QString selektionsfilterText(const Merkkartelle& app) { return app.Selektionsfilter; }
+// The filter of an active selection as a save applies it again: in single mode the selected
+// line of the selection form, in multi mode (or with no line chosen) Selektionsfilter.
+QString selektionsfilterText(const Merkkartelle& app)
+{
+    if (app.Hauptmaske.Selektiert.Caption != kSelektierungAktiv)
+        return QString();
+    const ListBox& zeilen = app.Selektierung.Abfragetexte;
+    if (!app.Selektierung.Check1.checked() && zeilen.ListIndex >= 0)
+        return zeilen.Text();
+    return app.Selektionsfilter;
+}
 
 enum class Zug { Naechster, Voriger, Letzter, Erster };
 
@@ -146,7 +154,7 @@ void ReihenfolgeAnwenden(Merkkartelle& app)
     const QString sort = QLatin1Char('[') + app.Sortierfeld + QLatin1Char(']');
     underIgnoredErrors([&] { kartensatz(app).Sort = absteigend(app) ? sort + QStringLiteral(" DESC") : sort; });
     if (app.Hauptmaske.Selektiert.Caption == kSelektierungAktiv)
-        underIgnoredErrors([&] { kartensatz(app).Filter = selektionsfilterText(app); });
+        underIgnoredErrors([&] { kartensatz(app).Filter = app.Selektionsfilter; });
     underIgnoredErrors([&] { app.Kartensatz = kartensatz(app).createDynaset(); });
     underIgnoredErrors([&] { kartensatz(app).MoveFirst(); });
 }
@@ -180,8 +188,9 @@ bool KartensatzNachSpeichern(Merkkartelle& app, const QString& nummer)
         });
     };
     const QString sortAlt = QLatin1Char('[') + app.SortierfeldAlt + QLatin1Char(']');
-    if (!app.Selektionsfilter.isEmpty())
-        frisch(sortAlt, selektionsfilterText(app));
+    const QString selektion = selektionsfilterText(app);
+    if (!selektion.isEmpty())
+        frisch(sortAlt, selektion);
     else
         frisch(sortAlt, QString());
 

@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "printing/label_printing.h"
+#include "search/field_selection.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
 
@@ -123,6 +124,8 @@ void Command3D23_Click(Merkkartelle& app)
 {
     if (bearbeitungOffen(app))
         Ausschneiden(app);
+    else if (!bildschutzSichtbar(app))
+        SelektionBearbeiten(app);
 }
 
 void Command3D25_Click(Merkkartelle& app)

@@ -25,6 +25,7 @@ Schnellsuchen::Schnellsuchen()
     KeyPreview = true;
     Frame3D1.Caption = QStringLiteral("Specifische Suche:");
     Label1.Caption = QStringLiteral("Suchtext:");
+    abbruch.Caption = QStringLiteral("Abbrechen");
     Command1 = ControlArray<Button>(1, 29, [](Button& b, int i) {
         b.Caption = searchFieldCaption(i);
         b.Left = 120 + ((i - 1) % 4) * 1560;

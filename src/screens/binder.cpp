@@ -4,6 +4,7 @@
 #include "forms/status_line.h"
 #include "screens/conversions.h"
 #include "screens/widgets.h"
+#include "screens/long_list.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -260,10 +261,14 @@ void Binder::connectChoiceInput(Binding& b)
     QWidget* w = b.widget;
     if (auto* list = qobject_cast<QListWidget*>(w)) {
         connect(list, &QListWidget::currentRowChanged, this, [this, &b](int row) { onListChosen(b, row); });
+    } else if (auto* list = qobject_cast<LongListView*>(w)) {
+        connect(list, &LongListView::currentRowChanged, this, [this, &b](int row) { onListChosen(b, row); });
     } else if (auto* combo = qobject_cast<QComboBox*>(w)) {
         connect(combo, &QComboBox::activated, this, [this, &b](int index) { onComboChosen(b, index); });
     } else if (auto* table = qobject_cast<QTableWidget*>(w)) {
         connect(table, &QTableWidget::cellClicked, this, [this, &b](int row, int col) { onCellChosen(b, row, col); });
+    } else if (auto* grid = qobject_cast<LongGridView*>(w)) {
+        connect(grid, &LongGridView::cellChosen, this, [this, &b](int row, int col) { onCellChosen(b, row, col); });
     } else if (auto* bar = qobject_cast<QScrollBar*>(w)) {
         connect(bar, &QScrollBar::valueChanged, this, [this, &b](int value) { onScroll(b, value); });
     }

@@ -5,6 +5,7 @@
 #include "card/app_state.h"
 #include "screens/icons.h"
 #include "screens/widgets.h"
+#include "screens/long_list.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -337,6 +338,10 @@ void Binder::pushList(Binding& b, Control& control, QWidget* w)
 {
     auto& items = b.kind == ControlKind::ListBox ? static_cast<ListItems&>(static_cast<ListBox&>(control))
                                                  : static_cast<ListItems&>(static_cast<ComboBox&>(control));
+    if (auto* list = qobject_cast<LongListView*>(w)) {
+        list->sync(items);
+        return;
+    }
     if (auto* list = qobject_cast<QListWidget*>(w)) {
         bool same = list->count() == items.ListCount();
         for (int i = 0; same && i < list->count(); ++i)
@@ -425,10 +430,17 @@ void Binder::pushImage(Binding& b, Control& control, QWidget* w)
 
 void Binder::pushGrid(Binding& b, Control& control, QWidget* w)
 {
+    auto& grid = static_cast<Grid&>(control);
+    if (auto* view = qobject_cast<LongGridView*>(w)) {
+        std::vector<int> widths;
+        for (int c = 0; c < grid.cols(); ++c)
+            widths.push_back(px(grid.ColWidth(c)));
+        view->sync(grid, widths);
+        return;
+    }
     auto* table = qobject_cast<QTableWidget*>(w);
     if (!table)
         return;
-    auto& grid = static_cast<Grid&>(control);
     if (table->rowCount() != grid.rows())
         table->setRowCount(grid.rows());
     if (table->columnCount() != grid.cols())

@@ -5,6 +5,7 @@
 #include "screens/form2_view.h"
 #include "screens/printing_views.h"
 #include "screens/history_views.h"
+#include "screens/search_views.h"
 #include "screens/settings_views.h"
 #include "screens/telephony_views.h"
 #include "screens/typenliste_view.h"
@@ -173,6 +174,18 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildMalatelephoneView(forms);
     if (name == QLatin1String("Formtel"))
         return buildFormtelView(forms);
+    if (name == QLatin1String("Schnellsuchen"))
+        return buildSchnellsuchenView(forms);
+    if (name == QLatin1String("Suchergebnis"))
+        return buildSuchergebnisView(forms);
+    if (name == QLatin1String("Procurar"))
+        return buildProcurarView(forms);
+    if (name == QLatin1String("Gitter"))
+        return buildGitterView(forms);
+    if (name == QLatin1String("Selektierung"))
+        return buildSelektierungView(forms);
+    if (name == QLatin1String("search"))
+        return buildSearchView(forms);
     return buildGenericView(forms, name);
 }
 
