@@ -4,8 +4,11 @@
 #include "card/card_handlers.h"
 #include "card/main_window.h"
 #include "card/notice.h"
+#include "attachments/linked_files.h"
 #include "history/global_view.h"
+#include "maintenance/maintenance.h"
 #include "search/type_marks.h"
+#include "settings/password.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
 
@@ -23,6 +26,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(etiquet);
     forms.add(Form5);
     forms.add(Form6);
+    forms.add(senha);
     forms.add(mala);
     forms.add(malasp);
     forms.add(Schnellsuchen);
@@ -51,6 +55,9 @@ void registerAllHandlers(HandlerTable& table)
     registerGlobalViewHandlers(table);
     registerTypeHandlers(table);
     registerPickListHandlers(table);
+    registerMaintenanceHandlers(table);
+    registerPasswordHandlers(table);
+    registerAttachmentHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

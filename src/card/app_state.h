@@ -21,6 +21,7 @@
 #include "forms/malasp.h"
 #include "forms/replay.h"
 #include "forms/schnellsuchen.h"
+#include "forms/senha.h"
 #include "forms/search.h"
 #include "forms/suchergebnis.h"
 #include "forms/typenliste_benutzerdefiniert.h"
@@ -101,6 +102,7 @@ struct Merkkartelle {
     std::array<QString, 101> Feldbenennung;      // values read from a .den file, 0 to 24 used
     QString DezimalZeichen = QStringLiteral(",");
     int Passwortmodus = 0;                       // 0 login at start, 1 change of the password
+    bool PasswortAngenommen = false;             // the word typed into senha was the stored one
 
     // --- the forms ------------------------------------------------------------------------------
     mk::Hauptmaske Hauptmaske;
@@ -112,6 +114,7 @@ struct Merkkartelle {
     mk::etiquet etiquet;
     mk::Form5 Form5;
     mk::Form6 Form6;
+    mk::senha senha;
     mk::mala mala;
     mk::malasp malasp;
     mk::Schnellsuchen Schnellsuchen;

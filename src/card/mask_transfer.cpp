@@ -310,11 +310,33 @@ void TypInMaske(Merkkartelle& app, const QString& typ)
 
 // ---- mask into card ---------------------------------------------------------------------------
 
+namespace {
+
+void strukturfehler(Merkkartelle& app, const RuntimeError& fehler)
+{
+    app.ui.MsgBox(QStringLiteral("Speicherung abgebrochen - Strukturfehler ") + QLatin1Char('\r') + QStringLiteral("       ")
+                      + fehler.Description + QLatin1Char('\r'),
+                  vbCritical);
+}
+
+}  // namespace
+
 void MaskeInDaten(Merkkartelle& app)
+{
+    Recordset* satz = nullptr;
+    try {
+        satz = &kartensatz(app);
+    } catch (const RuntimeError& fehler) {
+        strukturfehler(app, fehler);
+        return;
+    }
+    MaskeInDatenMulti(app, *satz);
+}
+
+void MaskeInDatenMulti(Merkkartelle& app, Recordset& satz)
 {
     const auto& liste = spalten();
     try {
-        Recordset& satz = kartensatz(app);
         for (std::size_t i = 0; i < liste.size(); ++i) {
             const Spalte& spalte = liste[i];
             switch (spalte.art) {
@@ -343,9 +365,7 @@ void MaskeInDaten(Merkkartelle& app)
             }
         }
     } catch (const RuntimeError& fehler) {
-        app.ui.MsgBox(QStringLiteral("Speicherung abgebrochen - Strukturfehler ") + QLatin1Char('\r') + QStringLiteral("       ")
-                          + fehler.Description + QLatin1Char('\r'),
-                      vbCritical);
+        strukturfehler(app, fehler);
     }
 }
 

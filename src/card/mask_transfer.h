@@ -7,6 +7,7 @@
 namespace mk {
 
 struct Merkkartelle;
+class Recordset;
 
 // Card into mask, with everything the shown card drives (buttons, picture, position
 // display, DIALER). Each column under ignored errors, so a column the table lacks leaves
@@ -19,6 +20,8 @@ void DatenInMaske(Merkkartelle& app);
 // is never written. A failure outside the guarded columns stops the writing with the box
 // "Speicherung abgebrochen - Strukturfehler " and leaves the buffer as written so far.
 void MaskeInDaten(Merkkartelle& app);
+// The same writing into the record buffer of another cursor (the card transfer's target).
+void MaskeInDatenMulti(Merkkartelle& app, Recordset& satz);
 
 // Clears every slot of the mask and the connections; dataold and datalabel stay.
 void MaskeLeeren(Merkkartelle& app);

@@ -9,6 +9,12 @@ namespace mk {
 struct Message : Form {
     Label Label1;
     Timer Timer1;
+    // The progress of a copy of cards: the pictures of a hard disk and a floppy disk, the bar
+    // and the count. Hidden but for that copy.
+    Image Image1;
+    Image Image2;
+    Panel picAusgabe;
+    Label Label2;
 
     Message();
     template <class V>
@@ -16,6 +22,10 @@ struct Message : Form {
     {
         v("Label1", Label1);
         v("Timer1", Timer1);
+        v("Image1", Image1);
+        v("Image2", Image2);
+        v("picAusgabe", picAusgabe);
+        v("Label2", Label2);
     }
 };
 

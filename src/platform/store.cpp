@@ -389,6 +389,23 @@ RecordsetPtr Database::createDynaset(const QString& table)
     return rs;
 }
 
+namespace {
+
+void transactionStep(const std::shared_ptr<store::Connection>& conn, const char* sql)
+{
+    if (!conn)
+        store::raise(err::ObjectClosed, QStringLiteral("Objekt ist ungültig oder nicht mehr festgelegt."));
+    const int rc = sqlite3_exec(conn->handle(), sql, nullptr, nullptr, nullptr);
+    if (rc != SQLITE_OK)
+        conn->fail(rc);
+}
+
+}  // namespace
+
+void Database::BeginTrans() { transactionStep(d->conn, "BEGIN IMMEDIATE"); }
+void Database::CommitTrans() { transactionStep(d->conn, "COMMIT"); }
+void Database::Rollback() { transactionStep(d->conn, "ROLLBACK"); }
+
 std::vector<FieldDef> Database::tableDef(const QString& table)
 {
     if (!d->conn)
