@@ -41,6 +41,13 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(DIALER);
     forms.add(TypenlisteBenutzerdefiniert);
 
+    // The type names a first start shows are the names every list takes and the first end
+    // writes: records 21 to 27 agree with the boxes' design.
+    for (int k = 1; k <= 7; ++k) {
+        Typenbenennung[std::size_t(k)] = designTypeName(k);
+        Einstellungsliste[std::size_t(20 + k)] = designTypeName(k);
+    }
+
     registerAllHandlers(handlers);
 }
 

@@ -1,6 +1,8 @@
 #include "card/card_cursor.h"
 
 #include "card/app_state.h"
+#include "card/card_record.h"
+#include "settings/form_places.h"
 #include "card/edit_clipboard.h"
 #include "card/mask_transfer.h"
 #include "card/notice.h"
@@ -80,6 +82,8 @@ void bewegen(Merkkartelle& app, Button& button, Zug zug)
     button.Enabled = true;
 }
 
+const Formplatz kForm3Platz{67, 68};
+
 // Choosing a sort slot, by its option or by AZCHECK with the current slot.
 void sortierungWaehlen(Merkkartelle& app, int slot)
 {
@@ -126,23 +130,14 @@ long kartenzahl(Merkkartelle& app)
 
 QString optionSortColumn(int slot)
 {
-    switch (slot) {
-    case 4:
-        return QStringLiteral("Abteilung");
-    case 25:
-        return QStringLiteral("Telex");
-    default:
-        return sortSlotCaption(slot);  // the option's caption is its column
-    }
+    const karte::Sortierplatz* platz = karte::sortierplatz(slot);
+    return platz ? karte::text(platz->optionsSpalte) : QString();
 }
 
 QString sortiertNachCaption(int slot)
 {
-    if (slot == 14)
-        return QStringLiteral("Geburtstag");
-    if (slot == 25)
-        return QStringLiteral("Bild");
-    return sortSlotCaption(slot);
+    const karte::Sortierplatz* platz = karte::sortierplatz(slot);
+    return platz ? karte::text(platz->anzeige) : QString();
 }
 
 void ReihenfolgeAnwenden(Merkkartelle& app)
@@ -342,13 +337,23 @@ void Form3_AZCHECK_Click(Merkkartelle& app)
     sortierungWaehlen(app, int(Val(app.Hauptmaske.currentindex.Caption)));
 }
 
+void Form3_Load(Merkkartelle& app)
+{
+    // The form comes back as it was left: the slot of the order pressed (without its
+    // action), the direction and the place from the settings table.
+    const int slot = int(Val(app.Hauptmaske.currentindex.Caption));
+    if (app.Form3.Option3D1.exists(slot))
+        app.forms.chooseOption(app.forms.control(app.Form3.Name, QStringLiteral("Option3D1"), slot));
+    app.Form3.AZCHECK.Value = app.Einstellungsliste[66] == QStringLiteral("True");
+    FormplatzNehmen(app, app.Form3, kForm3Platz);
+}
+
 void Form3_Command3D1_Click(Merkkartelle& app)
 {
     // The slot, the direction and the place of the form go into the settings buffer.
     app.Einstellungsliste[65] = app.Hauptmaske.currentindex.Caption;
     app.Einstellungsliste[66] = absteigend(app) ? QStringLiteral("True") : QStringLiteral("False");
-    app.Einstellungsliste[67] = QString::number(app.Form3.Top);
-    app.Einstellungsliste[68] = QString::number(app.Form3.Left);
+    FormplatzMerken(app, app.Form3, kForm3Platz);
     hideForm(app, app.Form3);
 }
 

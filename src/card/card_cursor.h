@@ -87,6 +87,7 @@ void dataold_Click(Merkkartelle& app);
 void Command3D8_Click(Merkkartelle& app);
 void Command3D24_Click(Merkkartelle& app);
 
+void Form3_Load(Merkkartelle& app);
 void Form3_Option3D1_Click(Merkkartelle& app, int slot);
 void Form3_AZCHECK_Click(Merkkartelle& app);
 void Form3_Command3D1_Click(Merkkartelle& app);

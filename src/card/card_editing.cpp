@@ -343,16 +343,6 @@ void bearbeitungAbbrechen(Merkkartelle& app)
 
 // ---- places of the mask -------------------------------------------------------------------------------
 
-QString MaskenPlatz::lesen() const { return text ? *text : QString::number(box->Value); }
-
-void MaskenPlatz::schreiben(const QString& wert) const
-{
-    if (text)
-        *text = wert;
-    else
-        box->Value = int(Val(wert));
-}
-
 // ---- state tests -------------------------------------------------------------------------------------
 
 bool eingabeGesperrt(const Merkkartelle& app)

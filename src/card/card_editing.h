@@ -16,15 +16,6 @@ struct Merkkartelle;
 struct CheckBox;
 class HandlerTable;
 
-// One place of the mask as the positional copies of a card see it (the deleted-card file,
-// the card buffer): a text slot, or a type box whose value travels as "1" or "0".
-struct MaskenPlatz {
-    QString* text = nullptr;
-    CheckBox* box = nullptr;
-    QString lesen() const;
-    void schreiben(const QString& wert) const;
-};
-
 // The entry buttons do nothing, without a word, while the screen guard covers the mask or
 // the database is open read-only (NurLesen "1").
 bool eingabeGesperrt(const Merkkartelle& app);

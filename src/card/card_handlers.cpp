@@ -42,6 +42,7 @@ void registerCardHandlers(HandlerTable& table)
 
     // The order.
     table.on("Hauptmaske", "Command3D24", "Click", Command3D24_Click);
+    table.onForm("Form3", "Load", [](Merkkartelle& app, EventArgs&) { Form3_Load(app); });
     table.on("Form3", "Option3D1", "Click", Form3_Option3D1_Click);
     table.on("Form3", "AZCHECK", "Click", Form3_AZCHECK_Click);
     table.on("Form3", "Command3D1", "Click", Form3_Command3D1_Click);

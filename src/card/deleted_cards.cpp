@@ -3,6 +3,7 @@
 #include "card/app_state.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
+#include "card/session.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/store.h"
@@ -14,14 +15,6 @@ namespace {
 
 const QString kZeilenumbruch = QStringLiteral("\r\n");
 const QString kEinzug = QStringLiteral("   ");
-constexpr int kDateiWerte = 94;
-
-MaskenPlatz platz(QString& text) { return MaskenPlatz{&text, nullptr}; }
-
-void arbeitsverzeichnisSetzen(Merkkartelle& app)
-{
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
-}
 
 QString dateiPfad(const Merkkartelle& app, const QString& nummer)
 {
@@ -52,7 +45,7 @@ int loeschKnoepfe(const Merkkartelle& app)
 // when the user says so; either way the delete goes on.
 void kopieSichern(Merkkartelle& app, const QString& nummer)
 {
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     const QString pfad = dateiPfad(app, nummer);
     QString vorhanden;
     underIgnoredErrors([&] { vorhanden = Dir(pfad); });
@@ -66,36 +59,7 @@ void kopieSichern(Merkkartelle& app, const QString& nummer)
 
 std::vector<MaskenPlatz> geloeschteKartePlaetze(Merkkartelle& app)
 {
-    auto& m = app.Hauptmaske;
-    std::vector<MaskenPlatz> p;
-    p.reserve(kDateiWerte);
-    for (int i = 0; i <= 22; ++i)
-        p.push_back(platz(m.feld[i].Text));
-    p.push_back(platz(m.Bemerkung.Text));
-    for (int i = 1; i <= 10; ++i)
-        p.push_back(platz(app.Aform.FeldA[i].Text));
-    for (int i = 1; i <= 10; ++i)
-        p.push_back(platz(app.Aform.feldB[i].Text));
-    for (int i = 0; i <= 3; ++i)
-        p.push_back(platz(m.feldnum[i].Text));
-    for (int i = 1; i <= 20; ++i)
-        p.push_back(platz(m.prog[i].Text));
-    p.push_back(platz(m.Zeit.Caption));  // the date of the last change is not kept
-    p.push_back(platz(m.Partido.Text));
-    p.push_back(platz(m.Ramal.Text));
-    p.push_back(platz(m.recdate.Caption));
-    p.push_back(platz(m.rectime.Caption));
-    for (TextBox* tel : {&m.tel1, &m.tel2, &m.tel3, &m.tel4})
-        p.push_back(platz(tel->Text));
-    for (int i = 0; i <= 6; ++i)
-        p.push_back(MaskenPlatz{nullptr, &m.Typenliste[i]});
-    for (TextBox* feld : {&m.Text9, &m.Text11, &m.Text10, &m.Text12, &m.Text13, &m.Text14})
-        p.push_back(platz(feld->Text));
-    p.push_back(platz(m.Text15.Text));
-    p.push_back(platz(m.feldbank[0].Text));
-    p.push_back(platz(m.feldbank[2].Text));
-    p.push_back(platz(m.feldbank[1].Text));
-    return p;
+    return Maskenplaetze(app, karte::kGeloeschteKarte);
 }
 
 void GeloeschteKarteSchreiben(Merkkartelle& app, const QString& path)
@@ -164,7 +128,7 @@ void config_Command7_Click(Merkkartelle& app)
         return;
     NeuenEintragOeffnen(app);
 
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     FileDialog& dialog = app.config.CMDialog1;
     dialog.Filter = QStringLiteral("Gelöschte Einträge (*.dat)|*.dat|");
     dialog.DialogTitle = QStringLiteral("Gelöschten Einträge wiederherstellen");

@@ -9,6 +9,7 @@
 // Text10, Text12 to Text15, feldbank(0), (2), (1).
 
 #include "card/card_editing.h"
+#include "card/card_slots.h"
 
 #include <QString>
 #include <vector>

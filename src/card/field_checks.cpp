@@ -3,6 +3,7 @@
 #include "card/app_state.h"
 #include "card/card_cursor.h"
 #include "card/card_editing.h"
+#include "card/card_record.h"
 #include "card/notice.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
@@ -37,10 +38,6 @@ const T* nachbarVon(const ControlArray<T>& array, int index)
     return nullptr;
 }
 
-// The label of feld(i): the catalogue numbers them alike, except the picture path feld(16),
-// whose label is beschreibung(23) ("Bild:"); beschreibung(16) is the notes'.
-int feldLabel(int index) { return index == 16 ? 23 : index; }
-
 template <class Box>
 void textVon(Platz& p, Box& box)
 {
@@ -57,8 +54,8 @@ Platz platz(Merkkartelle& app, Schreibfeld art, int index)
     case Schreibfeld::feld:
         textVon(p, m.feld[index]);
         p.nachbar = nachbarVon(m.feld, index);
-        p.label = &m.beschreibung[feldLabel(index)];
-        p.labelNachbar = nachbarVon(m.beschreibung, feldLabel(index));
+        p.label = &m.beschreibung[karte::feldLabel(index)];
+        p.labelNachbar = nachbarVon(m.beschreibung, karte::feldLabel(index));
         break;
     case Schreibfeld::feldbank:
         textVon(p, m.feldbank[index]);
@@ -105,23 +102,11 @@ QString schreibfeldPfad(Schreibfeld art, int index)
 
 QString SchreibfeldSpalte(Schreibfeld art, int index)
 {
-    switch (art) {
-    case Schreibfeld::feld:
-        return FeldSpalte(index);
-    case Schreibfeld::feldbank: {
-        static const char* const spalten[] = {"BankLeitZahl", "Kontonummer", "Bank"};
-        return index >= 0 && index <= 2 ? QString::fromLatin1(spalten[index]) : QString();
-    }
-    case Schreibfeld::feldnum:
-        return index >= 0 && index <= 3 ? QStringLiteral("C%1").arg(index + 1) : QString();
-    case Schreibfeld::Partido:
-        return QStringLiteral("Partei");
-    case Schreibfeld::prog:
-        return index >= 1 && index <= 20 ? QStringLiteral("PROG%1").arg(index) : QString();
-    case Schreibfeld::Bemerkung:
-        return QStringLiteral("Bemerkung");
-    }
-    return {};
+    using karte::Ort;
+    static constexpr Ort orte[] = {Ort::feld, Ort::feldbank, Ort::feldnum, Ort::Partido, Ort::prog, Ort::Bemerkung};
+    const bool einzeln = art == Schreibfeld::Partido || art == Schreibfeld::Bemerkung;
+    const karte::Spalte* spalte = karte::spalteAn(orte[int(art)], einzeln ? 0 : index);
+    return spalte ? karte::text(spalte->name) : QString();
 }
 
 int Feldgroesse(Merkkartelle& app, Schreibfeld art, int index)
@@ -197,7 +182,7 @@ QString SchreibfeldHinweis(Merkkartelle& app, const QString& control, int index)
     auto& m = app.Hauptmaske;
     const Label* label = nullptr;
     if (control.compare(QLatin1String("feld"), Qt::CaseInsensitive) == 0 && m.feld.exists(index))
-        label = &m.beschreibung[feldLabel(index)];
+        label = &m.beschreibung[karte::feldLabel(index)];
     else if (control.compare(QLatin1String("feldbank"), Qt::CaseInsensitive) == 0 && m.beschreibungbank.exists(index))
         label = &m.beschreibungbank[index];
     else if (control.compare(QLatin1String("feldnum"), Qt::CaseInsensitive) == 0 && m.beschreibungnum.exists(index))

@@ -5,6 +5,7 @@
 #include "card/edit_clipboard.h"
 #include "card/field_checks.h"
 #include "card/key_map.h"
+#include "card/mask_transfer.h"
 #include "card/screen_guard.h"
 
 #include <algorithm>
@@ -82,21 +83,6 @@ void panelsPlatzieren(Hauptmaske& m)
     // CampoM2 fills its panel below the three short extra fields.
     const int oben = 4 * kZeile;
     setzen(m.Text15, kRand, oben, r.width - 2 * kRand, r.height - oben - kRand);
-}
-
-// A picture keeps its proportions inside its frame less the margin.
-void bildEinpassen(Image& bild, const Control& rahmen)
-{
-    const int breite = std::max(rahmen.Width - 2 * kRand, 0);
-    const int hoehe = std::max(rahmen.Height - 2 * kRand, 0);
-    if (bild.PictureWidth <= 0 || bild.PictureHeight <= 0) {
-        setzen(bild, kRand, kRand, breite, hoehe);
-        return;
-    }
-    const double skala = std::min(double(breite) / bild.PictureWidth, double(hoehe) / bild.PictureHeight);
-    const int w = int(bild.PictureWidth * skala);
-    const int h = int(bild.PictureHeight * skala);
-    setzen(bild, (rahmen.Width - w) / 2, (rahmen.Height - h) / 2, w, h);
 }
 
 // ---- hints -------------------------------------------------------------------------------------
@@ -347,7 +333,7 @@ void Hauptmaske_Resize(Merkkartelle& app)
     setzen(m.Partido, letzter.Left, letzter.Top + kZeile, slotBreite, m.Partido.Height);
 
     // The pictures, then the panels in the place of the notes.
-    bildEinpassen(m.Image1, m.Panel3D2);
+    BildEinpassen(m.Image1, m.Panel3D2);
     setzen(m.Image2, kRand, (kKopfHoehe - 480) / 2, 480, 480);
     panelsPlatzieren(m);
     if (m.Bildschutz.Visible)

@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "card/card_cursor.h"
+#include "card/card_slots.h"
 #include "platform/files.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
@@ -14,90 +15,28 @@ namespace mk {
 
 namespace {
 
-// How a column travels between card and mask.
-enum class Art {
-    Text,            // the slot's text, both ways
-    Geburtstag,      // written only when filled; a failure skips ahead to Typ
-    Stempel,         // a label caption, written under its own guard
-    Typ,             // the seven type boxes
-    Laufendenummer,  // read only: the counter of the database
-};
+using karte::Art;
 
-using SlotRef = std::function<QString&(Merkkartelle&)>;
-
+// A column of the card record with its name as the store takes it, made once.
 struct Spalte {
     QString name;
-    Art art = Art::Text;
-    SlotRef slot;  // empty for Typ
+    const karte::Spalte* def;
+    Art art;
 };
-
-SlotRef feldSlot(int i)
-{
-    return [i](Merkkartelle& a) -> QString& { return a.Hauptmaske.feld[i].Text; };
-}
 
 // The columns in the order a card is written from the mask.
 const std::vector<Spalte>& spalten()
 {
     static const std::vector<Spalte> liste = [] {
         std::vector<Spalte> s;
-        const auto text = [&](const char* name, SlotRef slot) { s.push_back({QString::fromUtf8(name), Art::Text, slot}); };
-        const char* const feldNamen[] = {
-            "Schluessel", "Titel", "Firma", "Departament", "Nachname", "Vorname", "Strasse", "Staat",
-            "Stadteil", "PLZ", "Stadt", "Landescod", "Land",
-        };
-        for (int i = 0; i < 13; ++i)
-            text(feldNamen[i], feldSlot(i));
-        s.push_back({QStringLiteral("Geburtstag"), Art::Geburtstag, feldSlot(13)});
-        text("Telefon", feldSlot(14));
-        text("Telefax", feldSlot(15));
-        text("Telex", feldSlot(16));
-        text("Celphone", feldSlot(17));
-        text("Bemerkung", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Bemerkung.Text; });
-        text("Texto", feldSlot(18));
-        text("Firmenregisternummer", feldSlot(19));
-        text("Staatsregister", feldSlot(20));
-        text("Passportnummer", feldSlot(21));
-        text("Postfach", feldSlot(22));
-        for (int i = 1; i <= 10; ++i)
-            s.push_back({QStringLiteral("A%1").arg(i), Art::Text,
-                         [i](Merkkartelle& a) -> QString& { return a.Aform.FeldA[i].Text; }});
-        for (int i = 1; i <= 10; ++i)
-            s.push_back({QStringLiteral("B%1").arg(i), Art::Text,
-                         [i](Merkkartelle& a) -> QString& { return a.Aform.feldB[i].Text; }});
-        for (int i = 0; i < 4; ++i)
-            s.push_back({QStringLiteral("C%1").arg(i + 1), Art::Text,
-                         [i](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldnum[i].Text; }});
-        for (int i = 1; i <= 20; ++i)
-            s.push_back({QStringLiteral("PROG%1").arg(i), Art::Text,
-                         [i](Merkkartelle& a) -> QString& { return a.Hauptmaske.prog[i].Text; }});
-        s.push_back({QStringLiteral("Datum"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Datum.Caption; }});
-        s.push_back({QStringLiteral("Zeit"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Zeit.Caption; }});
-        text("Partei", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Partido.Text; });
-        text("vorwahl", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Ramal.Text; });
-        s.push_back({QStringLiteral("recdate"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.recdate.Caption; }});
-        s.push_back({QStringLiteral("rectime"), Art::Stempel, [](Merkkartelle& a) -> QString& { return a.Hauptmaske.rectime.Caption; }});
-        text("TEL1", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel1.Text; });
-        text("TEL2", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel2.Text; });
-        text("TEL3", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel3.Text; });
-        text("TEL4", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.tel4.Text; });
-        text("Bank", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldbank[2].Text; });
-        text("BankLeitZahl", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldbank[0].Text; });
-        text("Kontonummer", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.feldbank[1].Text; });
-        s.push_back({QStringLiteral("Typ"), Art::Typ, {}});
-        text("Som", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text9.Text; });
-        text("Video", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text10.Text; });
-        text("imagem", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text11.Text; });
-        text("Campo1", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text12.Text; });
-        text("Campo2", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text13.Text; });
-        text("CampoM1", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text14.Text; });
-        text("CampoM2", [](Merkkartelle& a) -> QString& { return a.Hauptmaske.Text15.Text; });
-        s.push_back({QStringLiteral("Laufendenummer"), Art::Laufendenummer,
-                     [](Merkkartelle& a) -> QString& { return a.Hauptmaske.LaufendeNummer.Caption; }});
+        for (std::size_t i = 0; i < karte::kMaskenSpalten; ++i)
+            s.push_back({karte::text(karte::kSpalten[i].name), &karte::kSpalten[i], karte::kSpalten[i].art});
         return s;
     }();
     return liste;
 }
+
+QString& slotVon(Merkkartelle& app, const Spalte& spalte) { return *Spaltentext(app, *spalte.def); }
 
 std::size_t typIndex()
 {
@@ -165,13 +104,12 @@ void farbeAusEinstellung(const Merkkartelle& app, int record, long& ziel)
 constexpr int kTwipsPerPixel = 15;
 constexpr int kBildRand = 240;
 
-// The picture sizing routine: the picture keeps its proportions inside its frame less the
-// margin, and sits in the middle of it.
+}  // namespace
+
 void BildEinpassen(Image& bild, const Control& rahmen)
 {
     const int breite = std::max(rahmen.Width - kBildRand, 0);
     const int hoehe = std::max(rahmen.Height - kBildRand, 0);
-    bild.Stretch = false;  // never distorted: the size below keeps the picture's proportions
     if (bild.PictureWidth > 0 && bild.PictureHeight > 0 && breite > 0 && hoehe > 0) {
         const double skala = std::min(double(breite) / bild.PictureWidth, double(hoehe) / bild.PictureHeight);
         bild.Width = int(bild.PictureWidth * skala);
@@ -180,11 +118,9 @@ void BildEinpassen(Image& bild, const Control& rahmen)
         bild.Width = breite;
         bild.Height = hoehe;
     }
-    bild.Left = rahmen.Left + (rahmen.Width - bild.Width) / 2;
-    bild.Top = rahmen.Top + (rahmen.Height - bild.Height) / 2;
+    bild.Left = (rahmen.Width - bild.Width) / 2;
+    bild.Top = (rahmen.Height - bild.Height) / 2;
 }
-
-}  // namespace
 
 // ---- card into mask ---------------------------------------------------------------------------
 
@@ -214,9 +150,9 @@ void DatenInMaske(Merkkartelle& app)
                 app.Typzeichen = wert;
                 TypInMaske(app, wert);
             } else {
-                spalte.slot(app) = wert;
+                slotVon(app, spalte) = wert;
             }
-            if (spalte.art == Art::Laufendenummer) {
+            if (spalte.art == Art::Zaehler) {
                 m.datalabel.Caption = wert;
                 m.LaufendeNummer.Hint = QStringLiteral("Laufende Nummer ") + wert + QStringLiteral("  (Datenbankregistriernummer)");
             }
@@ -272,6 +208,7 @@ void KartenbildZeigen(Merkkartelle& app)
     bild.Height = m.Panel3D2.Height - kBildRand;
     bild.Visible = true;
 
+    bild.Stretch = false;  // never distorted: the fitting keeps the picture's proportions
     BildEinpassen(bild, m.Panel3D2);
     if (app.config.SSCheck9.checked()) {
         m.prever.Picture = datei;
@@ -341,12 +278,13 @@ void MaskeInDatenMulti(Merkkartelle& app, Recordset& satz)
             const Spalte& spalte = liste[i];
             switch (spalte.art) {
             case Art::Text:
-                satz.Fields(spalte.name).setValue(spalte.slot(app));
+            case Art::Langtext:
+                satz.Fields(spalte.name).setValue(slotVon(app, spalte));
                 break;
             case Art::Geburtstag:
-                if (!spalte.slot(app).isEmpty()) {
+                if (!slotVon(app, spalte).isEmpty()) {
                     try {
-                        satz.Fields(spalte.name).setValue(spalte.slot(app));
+                        satz.Fields(spalte.name).setValue(slotVon(app, spalte));
                     } catch (const RuntimeError&) {
                         i = typIndex() - 1;  // the guard goes on with Typ
                     }
@@ -355,13 +293,14 @@ void MaskeInDatenMulti(Merkkartelle& app, Recordset& satz)
                 }
                 break;
             case Art::Stempel:
-                underIgnoredErrors([&] { satz.Fields(spalte.name).setValue(spalte.slot(app)); });
+                underIgnoredErrors([&] { satz.Fields(spalte.name).setValue(slotVon(app, spalte)); });
                 break;
             case Art::Typ:
                 satz.Fields(spalte.name).setValue(TypAusMaske(app));
                 break;
-            case Art::Laufendenummer:
-                break;  // the counter of the database: never written
+            case Art::Zaehler:
+            case Art::Vorlage:
+                break;  // the counter of the database is never written, nor the template's own column
             }
         }
     } catch (const RuntimeError& fehler) {

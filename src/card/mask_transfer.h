@@ -8,6 +8,8 @@ namespace mk {
 
 struct Merkkartelle;
 class Recordset;
+struct Image;
+struct Control;
 
 // Card into mask, with everything the shown card drives (buttons, picture, position
 // display, DIALER). Each column under ignored errors, so a column the table lacks leaves
@@ -42,6 +44,11 @@ void TypInMaske(Merkkartelle& app, const QString& typ);
 // The copy of the card's dial data into DIALER (number, name, running number, the seven
 // numbers of the card).
 void KarteInDialer(Merkkartelle& app);
+
+// The picture sizing routine: the picture keeps its proportions inside its frame less a
+// margin, in the middle of it (its place counted from the frame's corner). A picture of no
+// known size fills the frame less the margin.
+void BildEinpassen(Image& bild, const Control& rahmen);
 
 // The card's picture from feld(16) into Image1, its size in Label16, fitted to Panel3D2.
 void KartenbildZeigen(Merkkartelle& app);

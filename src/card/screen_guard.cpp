@@ -5,6 +5,7 @@
 #include "card/card_cursor.h"
 #include "card/card_editing.h"
 #include "card/main_window.h"
+#include "card/mask_transfer.h"
 
 #include <algorithm>
 #include <array>
@@ -18,7 +19,6 @@ const std::array<QString, 7> kWochentage = {
     QStringLiteral("Donnerstag"), QStringLiteral("Freitag"), QStringLiteral("Samstag"),
 };
 
-constexpr int kBildRand = 240;
 
 }  // namespace
 
@@ -50,20 +50,8 @@ void BildschutzEinpassen(Merkkartelle& app)
     schutz.Height = m.SSPanel2.Height;
 
     // The picture keeps its proportions inside the guard.
-    Image& bild = m.Image12;
-    const int breite = std::max(schutz.Width - kBildRand, 0);
-    const int hoehe = std::max(schutz.Height - kBildRand, 0);
-    bild.Stretch = true;
-    if (bild.PictureWidth > 0 && bild.PictureHeight > 0) {
-        const double skala = std::min(double(breite) / bild.PictureWidth, double(hoehe) / bild.PictureHeight);
-        bild.Width = int(bild.PictureWidth * skala);
-        bild.Height = int(bild.PictureHeight * skala);
-    } else {
-        bild.Width = breite;
-        bild.Height = hoehe;
-    }
-    bild.Left = (schutz.Width - bild.Width) / 2;
-    bild.Top = (schutz.Height - bild.Height) / 2;
+    m.Image12.Stretch = true;
+    BildEinpassen(m.Image12, schutz);
 }
 
 void BildschutzZeigen(Merkkartelle& app)

@@ -28,12 +28,6 @@ const QString kIniPfadFest = QStringLiteral("c:\\windows\\MERKKARTELLE.INI");
 const QString kDatenbankFilter = QStringLiteral("Datenbank (*.mdb)|*.mdb|");
 constexpr int kNurLesenFlags = 1025;  // the open dialog with its read-only box ticked
 
-void arbeitsverzeichnisSetzen(Merkkartelle& app)
-{
-    underIgnoredErrors([&] { ChDrive(app.Arbeitsverzeichnis.left(2)); });
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
-}
-
 QString datenbankPfad(const Merkkartelle& app) { return joinPath(app.Arbeitsverzeichnis, app.Datenbankdatei); }
 
 Database& datenbank(const DatabasePtr& db)
@@ -156,7 +150,7 @@ void Start(Merkkartelle& app)
     fortschritt(app, 500);
 
     anrufsitzungOeffnen(app);
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
 
     showForm(app, app.Hauptmaske);
 }
@@ -208,7 +202,7 @@ void Hauptmaske_Load(Merkkartelle& app)
     m.Label7.Caption = GetProfileString(QStringLiteral("windows"), QStringLiteral("spooler"), QString());
 
     fortschritt(app, 1500);
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     EinstellungenEinlesen(app);
     loadForm(app, app.config);
     loadForm(app, app.mala);
@@ -227,6 +221,12 @@ void Hauptmaske_Load(Merkkartelle& app)
     StandardBenennungEinlesen(app, NamingReset::AtStart);
 }
 
+void ArbeitsverzeichnisSetzen(Merkkartelle& app)
+{
+    underIgnoredErrors([&] { ChDrive(app.Arbeitsverzeichnis); });
+    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
+}
+
 // ---- another database ------------------------------------------------------------------------
 
 void abrirdmb_Click(Merkkartelle& app)
@@ -239,8 +239,8 @@ void abrirdmb_Click(Merkkartelle& app)
         ShowMessage(app, QStringLiteral("Aktuelle Einstellungen wurden gespeichert") + QStringLiteral("\r\n")
                                + QStringLiteral("Datenbank wird geöffnet..."),
                       colour::Black, app.Message.Timer1.Interval);
+        underIgnoredErrors([&] { StandardBenennungSchreiben(app); });
     }
-    underIgnoredErrors([&] { StandardBenennungSchreiben(app); });
 
     const QString bisherVerzeichnis = app.Arbeitsverzeichnis;
     const QString bisherDatei = app.Datenbankdatei;
@@ -283,7 +283,7 @@ void abrirdmb_Click(Merkkartelle& app)
     app.AboutBox.Label6.Caption = QStringLiteral("Datenbank wird geladen...");
     splashBeschriften(app);
 
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     EinstellungenEinlesen(app);
     EinstellungenLaden(app);
     QString benennung;
@@ -320,7 +320,7 @@ void fechardb_Click(Merkkartelle& app)
 
 long SitzungenLesen(Merkkartelle& app)
 {
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     double zahl = 0;
     underIgnoredErrors([&] { zahl = Val(TextReader(kSessionDatei).next()); });
     return long(zahl);
@@ -367,7 +367,7 @@ void SSCommand1_Click(Merkkartelle& app)
     schliessen(app.Gesamtdatenbank);
     schliessen(app.Gesamtsatz);
 
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     underIgnoredErrors([&] { EinstellungenSchreiben(app); });
     if (!offen)
         underIgnoredErrors([&] { StandardBenennungSchreiben(app); });

@@ -36,6 +36,11 @@ void Hauptmaske_Load(Merkkartelle& app);
 // parted by "  -  "; a directory without a drive letter is used whole.
 QString HauptmaskeTitel(const Merkkartelle& app);
 
+// The current drive and directory set to Arbeitsverzeichnis, as before every file that lives
+// beside the database; each step under ignored errors, so a folder that is gone changes
+// nothing.
+void ArbeitsverzeichnisSetzen(Merkkartelle& app);
+
 // Opens Kartendatenbank/Kartensatz and Zweitdatenbank/Zweitsatz on
 // Arbeitsverzeichnis + Datenbankdatei: exclusive and read-only when nurLesen, shared for
 // writing otherwise; each step under ignored errors.

@@ -1,34 +1,13 @@
 #include "forms/form3.h"
 
-#include <map>
+#include "card/card_record.h"
 
 namespace mk {
 
-namespace {
-const std::map<int, QString>& slotCaptions()
-{
-    static const std::map<int, QString> captions = {
-        {1, QStringLiteral("Schluessel")},     {2, QStringLiteral("Titel")},
-        {3, QStringLiteral("Firma")},          {4, QStringLiteral("Departament")},
-        {5, QStringLiteral("Nachname")},       {6, QStringLiteral("Vorname")},
-        {7, QStringLiteral("Strasse")},        {8, QStringLiteral("Staat")},
-        {9, QStringLiteral("Stadteil")},       {10, QStringLiteral("PLZ")},
-        {11, QStringLiteral("Stadt")},         {12, QStringLiteral("Landescod")},
-        {13, QStringLiteral("Land")},          {14, QStringLiteral("Geburtstag")},
-        {15, QStringLiteral("Telefon")},       {16, QStringLiteral("Telefax")},
-        {17, QStringLiteral("Celphone")},      {20, QStringLiteral("Typ")},
-        {21, QStringLiteral("Laufendenummer")}, {22, QStringLiteral("BankLeitZahl")},
-        {23, QStringLiteral("Kontonummer")},   {24, QStringLiteral("Bank")},
-        {25, QStringLiteral("Imagem")},
-    };
-    return captions;
-}
-}  // namespace
-
 QString sortSlotCaption(int slot)
 {
-    auto it = slotCaptions().find(slot);
-    return it == slotCaptions().end() ? QString() : it->second;
+    const karte::Sortierplatz* platz = karte::sortierplatz(slot);
+    return platz ? karte::text(platz->beschriftung) : QString();
 }
 
 Form3::Form3()
@@ -39,9 +18,9 @@ Form3::Form3()
     KeyPreview = true;
 
     int row = 0;
-    for (const auto& [slot, caption] : slotCaptions()) {
-        OptionButton& option = Option3D1.add(slot);
-        option.Caption = caption;
+    for (const karte::Sortierplatz& platz : karte::kSortierplaetze) {
+        OptionButton& option = Option3D1.add(platz.platz);
+        option.Caption = sortSlotCaption(platz.platz);
         option.Left = row < 12 ? 120 : 2400;
         option.Top = 120 + (row % 12) * 330;
         option.Width = 2200;

@@ -1,17 +1,12 @@
 #include "forms/hauptmaske.h"
 
+#include "card/card_record.h"
+
 #include <array>
 
 namespace mk {
 
 namespace {
-
-const std::array<const char*, 25> kCatalogue = {
-    "Schluessel:", "Titel:", "Firma:", "Departament:", "Nachname:", "Vorname:", "Strasse:",
-    "Staat:", "Stadteil:", "PLZ:", "Stadt:", "Landescod:", "Land:", "Geburtstag:", "Telefon:",
-    "Telefax:", "Notizen", "Celphone:", "Texto:", "Firmenreg.-nr:", "Staatsregister:",
-    "Passport:", "Postfach:", "Bild:", "Partei:",
-};
 
 constexpr long kStatusBlue = rgb(0, 0, 96);
 
@@ -63,9 +58,12 @@ void store(Image& i, const char* picture)
 
 QString designCaption(int index)
 {
-    return index >= 0 && index < int(kCatalogue.size()) ? QString::fromUtf8(kCatalogue[std::size_t(index)])
-                                                        : QString();
+    return index >= 0 && index < int(karte::kKatalog.size())
+               ? karte::text(karte::kKatalog[std::size_t(index)].beschriftung)
+               : QString();
 }
+
+QString designTypeName(int type) { return QStringLiteral("Typ %1").arg(type); }
 
 Hauptmaske::Hauptmaske()
 {
@@ -118,7 +116,7 @@ Hauptmaske::Hauptmaske()
     prog = ControlArray<TextBox>(1, 20, [](TextBox& t, int) { slot(t, 0); });
     init = ControlArray<Button>(1, 20, [](Button& b, int i) { b.Caption = QString::number(i); });
     Typenliste = ControlArray<CheckBox>(0, 6, [](CheckBox& c, int i) {
-        c.Caption = QStringLiteral("Typ %1").arg(i + 1);
+        c.Caption = designTypeName(i + 1);
         c.Top = 4700 + i * 300;
         c.Left = 5520;
     });
@@ -132,9 +130,13 @@ Hauptmaske::Hauptmaske()
     Bemerkung.Hint = QStringLiteral("Rechter Mouseknopf");
     Text15.Hint = QStringLiteral("Zusatzinformationen (Beliebig grosser Text)");
     Text1.SelLength = 0;
+    // The boxes that name the types hold the names the boxes show, so that an end before any
+    // naming writes those names and not seven empty ones.
     TextBox* typeNames[] = {&Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8};
-    for (TextBox* t : typeNames)
-        t->Visible = false;
+    for (int k = 0; k < 7; ++k) {
+        typeNames[k]->Text = designTypeName(k + 1);
+        typeNames[k]->Visible = false;
+    }
     TextBox* extras[] = {&Text12, &Text13, &Text14};
     for (int i = 0; i < 3; ++i)
         extras[i]->Hint = QStringLiteral("Zusatz %1").arg(i + 1);

@@ -270,5 +270,7 @@ struct Hauptmaske : Form {
 
 // The design caption of beschreibung(i), the field catalogue of the mask.
 QString designCaption(int index);
+// The design name of type 1 to 7, "Typ 1" …: the caption of its box and of its naming box.
+QString designTypeName(int type);
 
 }  // namespace mk

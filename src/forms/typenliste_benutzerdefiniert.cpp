@@ -1,5 +1,7 @@
 #include "forms/typenliste_benutzerdefiniert.h"
 
+#include "forms/hauptmaske.h"
+
 namespace mk {
 
 TypenlisteBenutzerdefiniert::TypenlisteBenutzerdefiniert()
@@ -15,7 +17,7 @@ TypenlisteBenutzerdefiniert::TypenlisteBenutzerdefiniert()
     Frame3D1.Width = 1935;
     Frame3D1.Height = 2535;
     Typenliste = ControlArray<CheckBox>(0, 6, [](CheckBox& c, int i) {
-        c.Caption = QStringLiteral("Typ %1").arg(i + 1);
+        c.Caption = designTypeName(i + 1);
         c.Left = 240;
         c.Top = 360 + i * 300;
         c.Width = 1695;

@@ -1,6 +1,7 @@
 #include "history/global_view.h"
 
 #include "card/app_state.h"
+#include "card/card_editing.h"
 #include "platform/paths.h"
 
 namespace mk {
@@ -11,18 +12,6 @@ using M = Merkkartelle;
 
 const QString kNullPath = QStringLiteral("------------------------");
 
-// Date and time as a text column takes them: the short date the main form read from the
-// locale at start (Label3), and the time.
-QString dateText(M& app)
-{
-    const QString format = app.Hauptmaske.Label3.Caption;
-    return app.clock.Date().toString(format.isEmpty() ? QStringLiteral("dd.MM.yyyy") : format);
-}
-
-QString timeText(M& app)
-{
-    return app.clock.Time().toString(QStringLiteral("HH:mm:ss"));
-}
 
 QString currentPath(M& app)
 {
@@ -197,8 +186,8 @@ void globalViewEintragen(Merkkartelle& app)
     underIgnoredErrors([&] {
         rs->AddNew();
         rs->Fields(QStringLiteral("FullPathName")).setValue(path);
-        rs->Fields(QStringLiteral("Datainicial")).setValue(dateText(app));
-        rs->Fields(QStringLiteral("Horainicial")).setValue(timeText(app));
+        rs->Fields(QStringLiteral("Datainicial")).setValue(DatumText(app));
+        rs->Fields(QStringLiteral("Horainicial")).setValue(ZeitText(app));
         rs->Update();
     });
 }
@@ -217,8 +206,8 @@ void globalViewAbschliessen(Merkkartelle& app)
             return;
         rs->Edit();
         rs->Fields(QStringLiteral("FullPathName")).setValue(path);
-        rs->Fields(QStringLiteral("Datafinal")).setValue(dateText(app));
-        rs->Fields(QStringLiteral("Horafinal")).setValue(timeText(app));
+        rs->Fields(QStringLiteral("Datafinal")).setValue(DatumText(app));
+        rs->Fields(QStringLiteral("Horafinal")).setValue(ZeitText(app));
         rs->Update();
     });
 }

@@ -1,5 +1,7 @@
 #include "platform/schema.h"
 
+#include "card/card_record.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -10,58 +12,21 @@ namespace mk {
 namespace {
 
 FieldDef text(const char* name, int size) { return {QString::fromUtf8(name), FieldType::Text, size}; }
-FieldDef memo(const char* name) { return {QString::fromUtf8(name), FieldType::Memo, 0}; }
 FieldDef counter(const char* name) { return {QString::fromUtf8(name), FieldType::Counter, 0}; }
 
-void addNumbered(std::vector<FieldDef>& fields, const char* stem, int from, int to, int size)
-{
-    for (int i = from; i <= to; ++i)
-        fields.push_back({QString::fromUtf8(stem) + QString::number(i), FieldType::Text, size});
-}
-
-// The card's columns in the order a card is written from the mask.
+// The card's columns as the card record declares them, in the order a card is written.
 std::vector<FieldDef> cardFields()
 {
     std::vector<FieldDef> f;
-    for (const char* name : {"Schluessel", "Titel"})
-        f.push_back(text(name, 50));
-    f.push_back(text("Firma", 100));
-    for (const char* name : {"Departament", "Nachname", "Vorname", "Strasse", "Staat", "Stadteil"})
-        f.push_back(text(name, 50));
-    f.push_back(text("PLZ", 10));
-    f.push_back(text("Stadt", 50));
-    f.push_back(text("Landescod", 10));
-    f.push_back(text("Land", 50));
-    f.push_back(text("Geburtstag", 10));
-    f.push_back(text("Telefon", 50));
-    f.push_back(text("Telefax", 50));
-    f.push_back(text("Telex", 255));
-    f.push_back(text("Celphone", 50));
-    f.push_back(memo("Bemerkung"));
-    for (const char* name : {"Texto", "Firmenregisternummer", "Staatsregister", "Passportnummer", "Postfach"})
-        f.push_back(text(name, 50));
-    addNumbered(f, "A", 1, 10, 60);
-    addNumbered(f, "B", 1, 10, 10);
-    addNumbered(f, "C", 1, 4, 100);
-    addNumbered(f, "PROG", 1, 20, 255);
-    f.push_back(text("Datum", 20));
-    f.push_back(text("Zeit", 20));
-    f.push_back(text("Partei", 50));
-    f.push_back(text("vorwahl", 10));
-    f.push_back(text("recdate", 20));
-    f.push_back(text("rectime", 20));
-    addNumbered(f, "TEL", 1, 4, 50);
-    f.push_back(text("Bank", 50));
-    f.push_back(text("BankLeitZahl", 20));
-    f.push_back(text("Kontonummer", 40));
-    f.push_back(text("Typ", 7));
-    for (const char* name : {"Som", "Video", "imagem"})
-        f.push_back(text(name, 255));
-    for (const char* name : {"Campo1", "Campo2", "CampoM1"})
-        f.push_back(text(name, 50));
-    f.push_back(memo("CampoM2"));
-    f.push_back(counter("Laufendenummer"));
-    f.push_back(text("Chamada", 50));
+    for (const karte::Spalte& s : karte::kSpalten) {
+        const QString name = karte::text(s.name);
+        if (s.art == karte::Art::Zaehler)
+            f.push_back({name, FieldType::Counter, 0});
+        else if (s.art == karte::Art::Langtext)
+            f.push_back({name, FieldType::Memo, 0});
+        else
+            f.push_back({name, FieldType::Text, s.groesse});
+    }
     return f;
 }
 

@@ -1,6 +1,7 @@
 #include "screens/binder_parts.h"
 
 #include "card/app_state.h"
+#include "forms/status_line.h"
 #include "screens/conversions.h"
 #include "screens/widgets.h"
 
@@ -146,13 +147,10 @@ void Binder::attach(const QString& form, QWidget* window)
     view->last.geometry = QRect(px(f.Left), px(f.Top), px(f.Width), px(f.Height));
     view->last.windowState = f.WindowState;
     // The status line is Panel3D3 unless the view names another panel.
-    QString statusPanel = window->property("mkStatusLine").toString();
-    if (statusPanel.isEmpty())
-        statusPanel = QStringLiteral("Panel3D3");
+    const QString statusPanel = window->property("mkStatusLine").toString();
+    view->statusLine = statusPanel.isEmpty() ? statusLineOf(app_.forms, form) : statusLineOf(app_.forms, form, statusPanel);
     for (const ControlRef& ref : app_.forms.controls(form)) {
         const QString name = widgetName(ref);
-        if (sameName(ref.name, statusPanel) && ref.index < 0)
-            view->statusLine = f.Name + QStringLiteral(".") + ref.name;
         if (ref.kind == ControlKind::MenuItem) {
             if (auto* action = window->findChild<QAction*>(name))
                 bindAction(*view, ref, action);
@@ -452,24 +450,15 @@ bool Binder::setStatusLine(const Target& t)
 {
     if (!t.view || t.view->statusLine.isEmpty())
         return false;
-    QString hint;
+    ControlRef hovered;
     if (t.binding) {
-        Control* c = controlOf(*t.binding);
-        if (!c)
-            return false;
-        hint = c->Hint;
-        const bool area = t.binding->kind == ControlKind::Panel || t.binding->kind == ControlKind::Frame;
-        if (hint.isEmpty() && !area)
-            return false;
+        try {
+            hovered = app_.forms.control(t.binding->form, t.binding->name, t.binding->index);
+        } catch (const FormsError&) {
+            return false;  // an element unloaded at run time
+        }
     }
-    const ControlRef status = app_.forms.control(t.view->statusLine);
-    QString* caption = status.is(ControlKind::Panel)   ? &status.as<Panel>().Caption
-                       : status.is(ControlKind::Label) ? &status.as<Label>().Caption
-                                                       : nullptr;
-    if (!caption || *caption == hint)
-        return false;
-    *caption = hint;
-    return true;
+    return showHintInStatusLine(app_.forms, t.view->statusLine, hovered);
 }
 
 namespace {

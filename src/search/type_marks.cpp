@@ -35,6 +35,14 @@ QString Typmaske(int typ)
     return maske;
 }
 
+QString festeTypform(int typ)
+{
+    QString form(kTypen, QLatin1Char('0'));
+    if (typ >= 1 && typ <= kTypen)
+        form[typ - 1] = QLatin1Char('1');
+    return form;
+}
+
 QString Typbedingung(const QString& maske) { return QStringLiteral("[Typ] like '") + maske + QLatin1Char('\''); }
 
 QString TypbedingungEinzeln(const Typauswahl& gewaehlt)
@@ -64,9 +72,10 @@ void TypenfilterAnzeigen(Merkkartelle& app)
 {
     auto& maske = app.Hauptmaske;
     Button& info = maske.InfoTipo;
-    // The lookup goes by mask, so two types of the same name cannot be mistaken.
+    // The lookup goes by mask, so two types of the same name cannot be mistaken; the fixed
+    // form of a type ("0100000") names it as well as its mask ("?1?????").
     for (int k = 1; k <= kTypen; ++k)
-        if (app.Typmaske == Typmaske(k))
+        if (app.Typmaske == Typmaske(k) || app.Typmaske == festeTypform(k))
             info.Caption = maske.Typenliste[k - 1].Caption;
     info.ForeColor = colour::Red;
     if (app.Typmaske.isEmpty()) {

@@ -23,6 +23,9 @@ inline const QString kAlleTypen = QStringLiteral("???????");  // every mark igno
 
 // Seven "?" with "1" at position typ (1 to 7): the mask that asks for that one mark.
 QString Typmaske(int typ);
+// Seven "0" with "1" at position typ: the fixed form of a type, which the filter display
+// names as well as the mask.
+QString festeTypform(int typ);
 // "[Typ] like '" + mask + "'".
 QString Typbedingung(const QString& maske);
 // One condition per chosen type, joined by " OR ": cards bearing any of the marks. Empty

@@ -1,6 +1,7 @@
 #include "settings/field_naming.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
@@ -23,14 +24,6 @@ const std::vector<int> kResetAfterLoad = {0, 1, 5, 4, 2, 6, 9, 8, 11, 14, 15, 10
 QString standardFile(Merkkartelle& app)
 {
     return joinPath(app.Arbeitsverzeichnis, kStandardNamingFile);
-}
-
-void toWorkingDirectory(Merkkartelle& app)
-{
-    underIgnoredErrors([&] {
-        ChDrive(app.Arbeitsverzeichnis);
-        ChDir(app.Arbeitsverzeichnis);
-    });
 }
 
 bool editing(Merkkartelle& app)
@@ -124,7 +117,7 @@ void beschreibung_MouseMove(Merkkartelle& app, int index)
 
 void abrirdenominacao_Click(Merkkartelle& app)
 {
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
     const FileChoice choice = app.ui.ShowOpen(namingDialog(app, "Benennungs einstellung laden..."));
     if (choice.cancelled)
         return;
@@ -133,7 +126,7 @@ void abrirdenominacao_Click(Merkkartelle& app)
 
 void salvarden_Click(Merkkartelle& app)
 {
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
     const FileChoice choice = app.ui.ShowSave(namingDialog(app, "Benennungseinstellung speichern..."));
     if (choice.cancelled)
         return;
@@ -146,7 +139,7 @@ void salvarden_Click(Merkkartelle& app)
             return;
     }
     underIgnoredErrors([&] { FeldbenennungSchreiben(app, choice.FileName); });
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
 }
 
 }  // namespace mk

@@ -1,9 +1,12 @@
 #include "settings/pick_lists.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
 #include "card/focus.h"
 #include "card/card_cursor.h"
+#include "card/card_record.h"
 #include "platform/files.h"
+#include "settings/form_places.h"
 #include "platform/paths.h"
 #include "platform/store.h"
 #include "platform/text_files.h"
@@ -15,21 +18,10 @@ namespace mk {
 
 namespace {
 
-constexpr int kFelder = 23;            // feld(0) to feld(22)
 constexpr int kListengrenze = 32767;   // records read from one list file at most
 
 const QString kHinzufuegen = QStringLiteral("Hinzufügen");
 const QString kOK = QStringLiteral("OK");
-
-// Every list file lives in the working directory of the database, and the current
-// directory is set there around each use.
-void insArbeitsverzeichnis(Merkkartelle& app)
-{
-    underIgnoredErrors([&] {
-        ChDrive(app.Arbeitsverzeichnis);
-        ChDir(app.Arbeitsverzeichnis);
-    });
-}
 
 // List1 and its shadow List3 hold the same texts, so a selection in one names the same
 // text in the other.
@@ -45,6 +37,15 @@ void auswahlknoepfe(Cidadefrm& form, bool aktiv)
     form.Command5.Enabled = aktiv;
 }
 
+const Formplatz kListenPlatz{160, 161};
+
+// The list closes by hiding and leaves its place in the settings table.
+void listeSchliessen(Merkkartelle& app)
+{
+    FormplatzMerken(app, app.Cidadefrm, kListenPlatz);
+    hideForm(app, app.Cidadefrm);
+}
+
 // The slot the list was opened for; -1 when none.
 int geoeffneterSlot(const Merkkartelle& app)
 {
@@ -57,13 +58,8 @@ int geoeffneterSlot(const Merkkartelle& app)
 
 QString FeldSpalte(int slot)
 {
-    static const std::array<const char*, kFelder> spalten = {
-        "Schluessel", "Titel", "Firma", "Departament", "Nachname", "Vorname", "Strasse", "Staat",
-        "Stadteil", "PLZ", "Stadt", "Landescod", "Land", "Geburtstag", "Telefon", "Telefax",
-        "Telex", "Celphone", "Texto", "Firmenregisternummer", "Staatsregister", "Passportnummer",
-        "Postfach",
-    };
-    return slot >= 0 && slot < kFelder ? QString::fromLatin1(spalten[std::size_t(slot)]) : QString();
+    const karte::Spalte* spalte = karte::spalteAn(karte::Ort::feld, slot);
+    return spalte ? karte::text(spalte->name) : QString();
 }
 
 QString Auswahllistendatei(const Merkkartelle& app, int slot)
@@ -74,7 +70,7 @@ QString Auswahllistendatei(const Merkkartelle& app, int slot)
 
 void AuswahllisteOeffnen(Merkkartelle& app, int slot)
 {
-    if (!bearbeitungOffen(app) || slot < 0 || slot >= kFelder)
+    if (!bearbeitungOffen(app) || slot < 0 || slot >= karte::kFelder)
         return;
     auto& form = app.Cidadefrm;
     form.Tag = QString::number(slot);
@@ -96,7 +92,7 @@ void AuswahllisteLesen(Merkkartelle& app)
     auto& form = app.Cidadefrm;
     form.List1.Clear();
     form.List3.Clear();
-    insArbeitsverzeichnis(app);
+    ArbeitsverzeichnisSetzen(app);
     // The end of the file or any error ends the reading; what was read stays in the list.
     underIgnoredErrors([&] {
         TextReader datei(form.Label2.Caption);
@@ -106,13 +102,13 @@ void AuswahllisteLesen(Merkkartelle& app)
                 eintragHinzufuegen(form, text);
         }
     });
-    insArbeitsverzeichnis(app);
+    ArbeitsverzeichnisSetzen(app);
 }
 
 void AuswahllisteSchreiben(Merkkartelle& app)
 {
     auto& form = app.Cidadefrm;
-    insArbeitsverzeichnis(app);
+    ArbeitsverzeichnisSetzen(app);
     underIgnoredErrors([&] {
         TextWriter datei(form.Label2.Caption);
         for (int i = 0; i < form.List1.ListCount(); ++i)
@@ -162,7 +158,7 @@ void AuswahlUebernehmen(Merkkartelle& app)
     const QString text = form.List1.List(gewaehlt);
     auto& maske = app.Hauptmaske;
     const QString label = maske.beschreibung[slot].Caption;
-    for (int i = 0; i < kFelder; ++i) {
+    for (int i = 0; i < karte::kFelder; ++i) {
         if (maske.beschreibung[i].Caption != label)
             continue;
         // Size 0 is a long text: no limit to cut to.
@@ -170,7 +166,7 @@ void AuswahlUebernehmen(Merkkartelle& app)
         underIgnoredErrors([&] { groesse = kartensatz(app).Fields(FeldSpalte(i)).Size(); });
         maske.feld[i].Text = groesse > 0 ? text.left(groesse) : text;
     }
-    hideForm(app, form);
+    listeSchliessen(app);
     // Back to the field the list was opened for, to type on.
     SetFocus(app, QStringLiteral("Hauptmaske.feld(%1)").arg(slot));
 }
@@ -202,7 +198,7 @@ void Cidadefrm_Command1_Click(Merkkartelle& app)
     form.Command1.Caption = kHinzufuegen;
 }
 
-void Cidadefrm_Command2_Click(Merkkartelle& app) { hideForm(app, app.Cidadefrm); }
+void Cidadefrm_Command2_Click(Merkkartelle& app) { listeSchliessen(app); }
 
 void Cidadefrm_Command3_Click(Merkkartelle& app)
 {
@@ -236,6 +232,8 @@ void registerPickListHandlers(HandlerTable& table)
 {
     table.on(QStringLiteral("Hauptmaske"), QStringLiteral("feld"), QStringLiteral("MouseDown"), &feld_MouseDown);
     const QString form = QStringLiteral("Cidadefrm");
+    table.onForm(form, QStringLiteral("Load"),
+                 [](Merkkartelle& app, EventArgs&) { FormplatzNehmen(app, app.Cidadefrm, kListenPlatz); });
     table.on(form, QStringLiteral("Command1"), QStringLiteral("Click"), &Cidadefrm_Command1_Click);
     table.on(form, QStringLiteral("Command2"), QStringLiteral("Click"), &Cidadefrm_Command2_Click);
     table.on(form, QStringLiteral("Command3"), QStringLiteral("Click"), &Cidadefrm_Command3_Click);

@@ -1,6 +1,8 @@
 #include "settings/settings_file.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
+#include "card/card_record.h"
 #include "platform/files.h"
 #include "platform/text_files.h"
 
@@ -585,10 +587,7 @@ void distribute(M& app, LoadPath path, const std::function<void()>& ordnungWiede
 
 QString fileInWorkingDirectory(M& app)
 {
-    underIgnoredErrors([&] {
-        ChDrive(app.Arbeitsverzeichnis);
-        ChDir(app.Arbeitsverzeichnis);
-    });
+    ArbeitsverzeichnisSetzen(app);
     return kSettingsFileName;
 }
 
@@ -653,13 +652,8 @@ void EinstellungenBeimStart(Merkkartelle& app, const std::function<void()>& ordn
 
 QString loadedSortColumn(int slot)
 {
-    static const std::array<const char*, 26> columns = {
-        "",          "Schluessel", "Titel",   "Firma",     "Departament",    "Nachname", "Vorname",
-        "Strasse",   "Staat",      "Stadteil", "PLZ",      "Stadt",          "Landescod", "Land",
-        "Geburtstag", "Telefon",   "Telefax", "Celphone",  "",               "",         "Typ",
-        "Laufendenummer", "BankLeitZahl", "Kontonummer", "Bank", "Telex",
-    };
-    return slot >= 0 && slot < int(columns.size()) ? QString::fromUtf8(columns[std::size_t(slot)]) : QString();
+    const karte::Sortierplatz* platz = karte::sortierplatz(slot);
+    return platz ? karte::text(platz->ladeSpalte) : QString();
 }
 
 }  // namespace mk

@@ -5,6 +5,7 @@
 #include "settings/settings_file.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
 #include "platform/files.h"
 
 namespace mk {
@@ -36,14 +37,6 @@ void formBackground(M& app, long colour)
     app.Hauptmaske.BackColor = colour;
     app.Hauptmaske.SSPanel2.BackColor = colour;
     app.Hauptmaske.Panel3D2.BackColor = colour;
-}
-
-void toWorkingDirectory(M& app)
-{
-    underIgnoredErrors([&] {
-        ChDrive(app.Arbeitsverzeichnis);
-        ChDir(app.Arbeitsverzeichnis);
-    });
 }
 
 struct Scheme {
@@ -141,7 +134,7 @@ void Command4_Click(M& app)  // "Öffnen"
     EinstellungenEinlesen(app, choice.FileName);
     EinstellungenLaden(app);
     unloadForm(app, QStringLiteral("AboutBox"));
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
 }
 
 void Command5_Click(M& app)  // "Sichern"
@@ -161,7 +154,7 @@ void Command5_Click(M& app)  // "Sichern"
             return;
     }
     underIgnoredErrors([&] { EinstellungenSchreiben(app, choice.FileName); });
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
 }
 
 void Command6_Click(M& app)  // "Hintergrund"
@@ -218,7 +211,7 @@ void SSCheck11_Click(M& app)
 
 void Text18_DblClick(M& app)
 {
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
     FileDialog& dialog = app.config.CMDialog1;
     dialog.FileName = app.config.Text18.Text;
     dialog.Filter = QStringLiteral("Programme (*.exe)|*.exe|");
@@ -228,7 +221,7 @@ void Text18_DblClick(M& app)
         return;
     dialog.FileName = choice.FileName;
     app.config.Text18.Text = choice.FileName;
-    toWorkingDirectory(app);
+    ArbeitsverzeichnisSetzen(app);
 }
 
 void config_KeyDown(M& app, EventArgs& args)

@@ -121,7 +121,11 @@ TEST_F(SessionTest, AnotherDatabaseComesFromTheDialogReadOnlyAndIsRemembered)
     click("Hauptmaske.abrirdmb");
     EXPECT_EQ(app().Kartensatz->RecordCount(), 3);  // a cancelled dialog keeps the session
     EXPECT_EQ(iniValue("Workdir"), "<none>");
+    // Without "Einstellungen speichern" opening writes neither the settings nor the names.
+    EXPECT_EQ(fileBytes("standart.den"), "<missing>");
+    EXPECT_EQ(fileBytes("merkkartelle.cfg"), "<missing>");
 
+    app().config.Check3D13.Value = 1;
     ui().answerOpen(other, true);
     click("Hauptmaske.abrirdmb");
     const ShownBox& dialog = ui().boxes.back();
@@ -137,7 +141,9 @@ TEST_F(SessionTest, AnotherDatabaseComesFromTheDialogReadOnlyAndIsRemembered)
     EXPECT_EQ(iniValue("Filename"), "karten.mdb");
     EXPECT_EQ(iniValue("Dbmerkkartelle"), "Adressenstamm");
     EXPECT_EQ(iniValue("ReadOnly"), "1");
-    EXPECT_NE(fileBytes("standart.den"), "<missing>");  // the names of the database left
+    // With it, both files of the database left are written before the switch.
+    EXPECT_NE(fileBytes("standart.den"), "<missing>");
+    EXPECT_NE(fileBytes("merkkartelle.cfg"), "<missing>");
 
     ui().answerOpen(defaultDatabase());
     click("Hauptmaske.abrirdmb");

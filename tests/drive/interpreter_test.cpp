@@ -422,8 +422,33 @@ expect Hauptmaske.Label9.Caption STOP
     EXPECT_EQ(never.line, 1);
     EXPECT_EQ(never.text, "expected 4 DoEvents calls got 0");
 
-    const Outcome notRunning = run("after 1 doevents expect Hauptmaske.Tag y\n");
-    EXPECT_EQ(notRunning.stop, "fault");
+    const Outcome setup = run("after 1 doevents ini Workdir x\n");
+    EXPECT_EQ(setup.stop, "fault");
+}
+
+TEST_F(DriveTest, AnExpectOrAnAnswerWaitsForItsDoEventsToo)
+{
+    // A walk that shows how far it is, and asks when it is through.
+    on("Hauptmaske", "Command3D2", "Click", [this](Merkkartelle& a, EventArgs&) {
+        for (int card = 1; card <= 3; ++card) {
+            a.Hauptmaske.Label9.Caption = QString::number(card);
+            a.ui.DoEvents();
+        }
+        calls.push_back(answerName(a.ui.MsgBox("Weiter?", vbYesNo)));
+    });
+    EXPECT_HELD(run(R"(
+after 2 doevents expect Hauptmaske.Label9.Caption 2
+after 3 doevents answer msgbox No
+click Hauptmaske.Command3D2
+expect Hauptmaske.Label9.Caption 3
+)"),
+                2);
+    EXPECT_EQ(calls, (std::vector<QString>{"No"}));
+
+    const Outcome looked = run("after 1 doevents expect Hauptmaske.Label9.Caption 2\nclick Hauptmaske.Command3D2\n");
+    EXPECT_EQ(looked.stop, "expect");
+    EXPECT_EQ(looked.line, 1);
+    EXPECT_EQ(looked.text, "expected 2 got 1");
 }
 
 TEST_F(DriveTest, AnswersAreTakenPerKindInOrder)

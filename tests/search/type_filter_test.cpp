@@ -153,6 +153,22 @@ TEST_F(TypeFilter, TwoTypesOfTheSameNameAreToldApartByTheirMask)
     EXPECT_EQ(column(), QStringList({"Braun"}));
 }
 
+TEST_F(TypeFilter, TheDisplayNamesATypeByItsFixedFormAsWellAsByItsMask)
+{
+    app.Typmaske = QStringLiteral("0100000");
+    TypenfilterAnzeigen(app);
+    EXPECT_EQ(info().Caption, QStringLiteral("Lieferant"));
+    EXPECT_EQ(info().ForeColor, colour::Red);
+
+    // A form of several marks names no type: the caption stays, the colour says a filter.
+    app.Typmaske = QStringLiteral("1100000");
+    TypenfilterAnzeigen(app);
+    EXPECT_EQ(info().Caption, QStringLiteral("Lieferant"));
+    app.Typmaske = QStringLiteral("0000001");
+    TypenfilterAnzeigen(app);
+    EXPECT_EQ(info().Caption, QStringLiteral("Typ 7"));
+}
+
 TEST_F(TypeFilter, AFilterOnAColumnTheTableLacksLeavesTheWholeTable)
 {
     // Slot 4 of the sort options names "Abteilung", which is no column.

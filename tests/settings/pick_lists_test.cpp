@@ -77,6 +77,21 @@ TEST_F(PickList, OnlyTheRightButtonWhileEditingOpensTheList)
     EXPECT_TRUE(system.ui.formsShown[0].second);  // modal
 }
 
+TEST_F(PickList, TheListTakesItsPlaceFromTheSettingsAndLeavesItThereWhenItCloses)
+{
+    app.Einstellungsliste[160] = QStringLiteral("1500");
+    app.Einstellungsliste[161] = QStringLiteral("2500");
+    edit();
+    mouseDown(10);
+    EXPECT_EQ(form.Top, 1500);
+    EXPECT_EQ(form.Left, 2500);
+
+    form.Top = 3000;
+    click("Command2");
+    EXPECT_EQ(app.Einstellungsliste[160], QStringLiteral("3000"));
+    EXPECT_EQ(app.Einstellungsliste[161], QStringLiteral("2500"));
+}
+
 TEST_F(PickList, TheListFileIsNamedByTheLabelAndEmptyTextsAreSkipped)
 {
     write("Stadt.txt", "\"Köln\"\r\n\"\"\r\n\"Berlin, Mitte\"\r\n");

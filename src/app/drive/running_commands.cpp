@@ -4,6 +4,7 @@
 #include "app/drive/interpreter.h"
 #include "app/drive/key_names.h"
 #include "card/session.h"
+#include "forms/status_line.h"
 
 namespace mk::drive {
 
@@ -135,7 +136,14 @@ void Interpreter::blur(const ScriptLine& line)
 
 void Interpreter::hover(const ScriptLine& line)
 {
-    simpleEvent(line, "hover PATH", "MouseMove");
+    need(line, 2, "hover PATH");
+    const ControlRef ref = control(line.tokens[1].text);
+    noteIfDisabled(ref, "MouseMove");
+    // As on the desktop: the status line takes the hint first, then the control's own
+    // handler runs, and may write another text there.
+    showHintInStatusLine(app_.forms, statusLineOf(app_.forms, ref.form), ref);
+    EventArgs args;
+    fire(ref.path(), QStringLiteral("MouseMove"), args);
 }
 
 // A paste over the whole text: cut at MaxLength, caret at the end, one Change.
@@ -257,8 +265,8 @@ void Interpreter::after(const ScriptLine& line)
         fault(QStringLiteral("after counts DoEvents calls from 1"));
     ScriptLine inner{line.number, std::vector<Token>(line.tokens.begin() + 3, line.tokens.end())};
     const Command* c = command(inner.tokens.front());
-    if (!c || c->phase != Phase::Running)
-        fault(QStringLiteral("after N doevents takes a running command, not %1")
+    if (!c || c->phase == Phase::Setup)
+        fault(QStringLiteral("after N doevents takes a running command, an answer or an expect, not %1")
                   .arg(quotedValue(inner.tokens.front().text)));
     pending_.push_back({n, ui_.doEventsCalls, std::move(inner)});
 }
