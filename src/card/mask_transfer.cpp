@@ -124,6 +124,42 @@ void BildEinpassen(Image& bild, const Control& rahmen)
 
 // ---- card into mask ---------------------------------------------------------------------------
 
+namespace {
+
+// The columns of the current card into their slots; with the display, each column also
+// drives what it shows beside its slot.
+void spaltenInMaske(Merkkartelle& app, bool mitAnzeige)
+{
+    auto& m = app.Hauptmaske;
+    for (const Spalte& spalte : spalten()) {
+        underIgnoredErrors([&] {
+            const QString wert = kartensatz(app).Fields(spalte.name).text();  // Null reads as ""
+            if (spalte.art == Art::Typ) {
+                app.Typzeichen = wert;
+                TypInMaske(app, wert);
+            } else {
+                slotVon(app, spalte) = wert;
+            }
+            if (spalte.art == Art::Zaehler) {
+                m.datalabel.Caption = wert;
+                m.LaufendeNummer.Hint = QStringLiteral("Laufende Nummer ") + wert + QStringLiteral("  (Datenbankregistriernummer)");
+            }
+        });
+        if (mitAnzeige)
+            nachDerSpalte(app, spalte);
+    }
+}
+
+}  // namespace
+
+void KarteInMaskenfelder(Merkkartelle& app)
+{
+    if (kartenzahl(app) == 0)
+        MaskeLeeren(app);
+    else
+        spaltenInMaske(app, false);
+}
+
 void DatenInMaske(Merkkartelle& app)
 {
     auto& m = app.Hauptmaske;
@@ -142,23 +178,7 @@ void DatenInMaske(Merkkartelle& app)
     }
 
     PositionAnzeigen(app);
-
-    for (const Spalte& spalte : spalten()) {
-        underIgnoredErrors([&] {
-            const QString wert = kartensatz(app).Fields(spalte.name).text();  // Null reads as ""
-            if (spalte.art == Art::Typ) {
-                app.Typzeichen = wert;
-                TypInMaske(app, wert);
-            } else {
-                slotVon(app, spalte) = wert;
-            }
-            if (spalte.art == Art::Zaehler) {
-                m.datalabel.Caption = wert;
-                m.LaufendeNummer.Hint = QStringLiteral("Laufende Nummer ") + wert + QStringLiteral("  (Datenbankregistriernummer)");
-            }
-        });
-        nachDerSpalte(app, spalte);
-    }
+    spaltenInMaske(app, true);
 
     m.AdresseÄndern.Enabled = true;
     m.AdresseLöschen.Enabled = true;

@@ -16,6 +16,9 @@ struct Control;
 // its slot as it was; Null reads as the empty text. With no card: MaskeLeeren and the
 // position display only.
 void DatenInMaske(Merkkartelle& app);
+// Only the card's values into their slots and type boxes, without what the shown card
+// drives: for walks that carry every card through the mask and show the last one at the end.
+void KarteInMaskenfelder(Merkkartelle& app);
 
 // Mask into the record buffer of Kartensatz; the caller holds AddNew or Edit and calls
 // Update afterwards. Every column by name, an empty slot as the empty text; Laufendenummer

@@ -76,14 +76,24 @@ void fortschrittZeigen(Merkkartelle& app, long zahl, long gesamt)
     m.Label2.Caption = QString::number(zahl) + QStringLiteral(" / ") + QString::number(gesamt);
 }
 
+// The columns of nurMitWert in the source and the target that both have.
+struct NurMitWert {
+    std::vector<std::pair<Field, Field>> paare;
+    NurMitWert(Recordset& quelle, Recordset& ziel)
+    {
+        for (const QString& spalte : nurMitWert())
+            underIgnoredErrors([&] { paare.emplace_back(quelle.Fields(spalte), ziel.Fields(spalte)); });
+    }
+};
+
 // The mask's card into the target's buffer; the columns kept Null where the source is.
-void karteSchreiben(Merkkartelle& app, Recordset& quelle, Recordset& ziel)
+void karteSchreiben(Merkkartelle& app, NurMitWert& spalten, Recordset& ziel)
 {
     MaskeInDatenMulti(app, ziel);
-    for (const QString& spalte : nurMitWert()) {
+    for (auto& [quelle, ziel] : spalten.paare) {
         underIgnoredErrors([&] {
-            if (quelle.Fields(spalte).isNull())
-                ziel.Fields(spalte).setValue(QVariant());
+            if (quelle.isNull())
+                ziel.setValue(QVariant());
         });
     }
 }
@@ -128,7 +138,8 @@ void copiardb_Click(Merkkartelle& app)
     underIgnoredErrors([&] {
         ziel = zielOeffnen(app, pfad);
         ziel.satz->AddNew();
-        karteSchreiben(app, *app.Kartensatz, *ziel.satz);
+        NurMitWert spalten(*app.Kartensatz, *ziel.satz);
+        karteSchreiben(app, spalten, *ziel.satz);
         ziel.satz->Update();
     });
     ziel.schliessen();
@@ -140,6 +151,7 @@ long AlleKartenKopieren(Merkkartelle& app, const QString& pfad)
     Recordset& quelle = *app.Kartensatz;
     Ziel ziel = zielOeffnen(app, pfad);
     Recordset& satz = *ziel.satz;
+    NurMitWert spalten(quelle, satz);
     const long gesamt = quelle.RecordCount();
     long geschrieben = 0;
     long imStapel = 0;
@@ -150,11 +162,11 @@ long AlleKartenKopieren(Merkkartelle& app, const QString& pfad)
             ziel.datenbank->BeginTrans();
             offen = true;
         }
-        DatenInMaske(app);
+        KarteInMaskenfelder(app);
         // A card the target refuses is passed over; the run goes on with the next.
         if (underIgnoredErrors([&] {
                 satz.AddNew();
-                karteSchreiben(app, quelle, satz);
+                karteSchreiben(app, spalten, satz);
                 satz.Update();
             }))
             ++geschrieben;
@@ -185,6 +197,7 @@ long AlleKartenKopieren(Merkkartelle& app, const QString& pfad)
         }
         if (offen)
             ziel.datenbank->CommitTrans();
+        DatenInMaske(app);  // the mask shows the last card of the run
     } catch (...) {
         if (offen)
             underIgnoredErrors([&] { ziel.datenbank->Rollback(); });

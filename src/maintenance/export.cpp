@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <optional>
 
 namespace mk {
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kLetzterFeldindex = 54;  // the form lists at most the fields 0 to 54
 const QString kZeilenende = QStringLiteral("\r\n");
+const QString kBlank = QStringLiteral(" ");
 
 frmExport& form(Merkkartelle& app) { return app.frmExport; }
 
@@ -34,12 +36,12 @@ public:
     {
         if (!file_.open(QIODevice::WriteOnly))
             raiseFileError(QFileInfo(DateiPfad(file_.fileName())).isDir() ? err::PermissionDenied : err::PathNotFound);
-        buffer_.reserve(kStueck * 2);
+        text_.reserve(kStueck + 4096);
     }
     void operator<<(const QString& text)
     {
-        buffer_ += text.toUtf8();
-        if (buffer_.size() >= kStueck)
+        text_ += text;
+        if (text_.size() >= kStueck)
             leeren();
     }
     void schliessen()
@@ -52,6 +54,8 @@ public:
 private:
     void leeren()
     {
+        buffer_ = text_.toUtf8();
+        text_.resize(0);
         if (!buffer_.isEmpty() && file_.write(buffer_) != buffer_.size()) {
             file_.cancelWriting();
             raiseFileError(err::DiskFull);
@@ -60,6 +64,7 @@ private:
     }
     static constexpr qsizetype kStueck = 1 << 20;
     QSaveFile file_;
+    QString text_;
     QByteArray buffer_;
 };
 
@@ -68,7 +73,9 @@ private:
 void zeileSchreiben(Ausgabe& aus, const QStringList& texte, bool waagerecht)
 {
     for (qsizetype i = 0; i < texte.size(); ++i) {
-        aus << QStringLiteral(" ") + texte.at(i) + QStringLiteral(" ");
+        aus << kBlank;
+        aus << texte.at(i);
+        aus << kBlank;
         if (i + 1 < texte.size() && !waagerecht)
             aus << kZeilenende;
     }
@@ -93,23 +100,27 @@ void ExportSchreiben(Merkkartelle& app, const QString& path, const QStringList& 
     zeileSchreiben(aus, columns, waagerecht);
     aus << QStringLiteral("\r\r");
 
-    // The columns by their place in the row, found once; the third field is the progress.
-    const std::vector<FieldDef> felder = satz.fieldDefs();
-    const QString fortschritt = felder.size() > 2 ? felder[2].Name : QString();
+    // The columns are found once; the third field of the table is the progress.
+    std::vector<Field> felder;
+    for (const QString& spalte : columns)
+        felder.push_back(satz.Fields(spalte));
+    const std::vector<FieldDef> definitionen = satz.fieldDefs();
+    std::optional<Field> dritte;
+    if (definitionen.size() > 2)
+        dritte = satz.Fields(definitionen[2].Name);
     QStringList werte;
-    werte.reserve(columns.size());
     if (satz.RecordCount() > 0)
         satz.MoveFirst();
     while (!satz.IsEOF()) {
-        if (!fortschritt.isEmpty()) {
-            const Field dritte = satz.Fields(fortschritt);
-            if (!dritte.isNull())
-                f.Infozeile.Caption = dritte.text();
+        if (dritte) {
+            const QVariant wert = dritte->Value();
+            if (wert.isValid())
+                f.Infozeile.Caption = wert.toString();
         }
         werte.clear();
-        for (const QString& spalte : columns) {
-            const Field feld = satz.Fields(spalte);
-            werte << (feld.isNull() ? QStringLiteral("*") : feld.text());
+        for (const Field& feld : felder) {
+            const QVariant wert = feld.Value();
+            werte << (wert.isValid() ? wert.toString() : QStringLiteral("*"));
         }
         zeileSchreiben(aus, werte, waagerecht);
         aus << kZeilenende;

@@ -118,7 +118,7 @@ void fetchBlock(Recordset::Impl& d, store::Connection& conn, long first, long co
         conn.fail(rc);
     block.first = first;
     block.count = count;
-    block.serial = store::writeSerial();
+    block.serial = conn.writeSerial();
     block.taken = std::chrono::steady_clock::now();
 }
 
@@ -129,7 +129,7 @@ const store::RowCopy& currentRow(Recordset::Impl& d)
         noCurrentRecord();
     const long i = d.index;
     store::RowBlock& block = d.block;
-    if (!block.holds(i, std::chrono::steady_clock::now())) {
+    if (!block.holds(i, std::chrono::steady_clock::now(), conn.writeSerial())) {
         long first = i;
         long count = 1;
         if (d.lastRead >= 0 && i != d.lastRead && std::abs(i - d.lastRead) <= 2) {  // a walk
@@ -480,14 +480,15 @@ void Recordset::Edit()
 
 void Recordset::Update()
 {
-    connectionOf(*d).requireWritable();
+    store::Connection& conn = connectionOf(*d);
+    conn.requireWritable();
     if (d->mode == EditMode::None)
         raise(err::UpdateWithoutEdit, QStringLiteral("Aktualisieren oder Abbrechen ohne AddNew oder Edit."));
     if (d->mode == EditMode::AddNew)
         insertRow(*d);  // joins the end of the key list; the current record stays
     else
         updateRow(*d);
-    store::noteWrite();
+    conn.noteWrite();
     dropEdit(*d);
 }
 
@@ -509,7 +510,7 @@ void Recordset::Delete()
     sqlite3_stmt* stmt = conn.statement("DELETE FROM " + d->source.table->quotedName + " WHERE rowid = ?1");
     sqlite3_bind_int64(stmt, 1, d->keys->keys[std::size_t(d->index)]);
     store::runToEnd(conn, stmt);
-    store::noteWrite();
+    conn.noteWrite();
     d->keys->markHole(std::size_t(d->index));
 }
 
