@@ -2,6 +2,7 @@
 
 #include "card/app_state.h"
 #include "card/mask_transfer.h"
+#include "card/session.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 
@@ -25,16 +26,10 @@ const QStringList& nurMitWert()
     return spalten;
 }
 
-void arbeitsverzeichnisSetzen(Merkkartelle& app)
-{
-    underIgnoredErrors([&] { ChDrive(app.Arbeitsverzeichnis.left(2)); });
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
-}
-
 // Steps 1 to 3 of both: the target chosen in a dialog; "" when cancelled.
 QString zielWaehlen(Merkkartelle& app)
 {
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     FileDialog dialog;
     dialog.Filter = QStringLiteral("Datenbank (*.mdb)|*.mdb|merkkartelle.mdb (merkkartelle.mdb)|merkkartelle.mdb|");
     dialog.DialogTitle = QStringLiteral("Zieldatenbank aussuchen...");

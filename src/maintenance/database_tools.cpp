@@ -18,12 +18,6 @@ const QString kDatenbankFilter = QStringLiteral("Datenbank (*.mdb)|*.mdb|");
 const QString kTitel = QStringLiteral("Datenbank Compactieren");
 const QString kZeilenumbruch = QStringLiteral("\r\n");
 
-void arbeitsverzeichnisSetzen(Merkkartelle& app)
-{
-    underIgnoredErrors([&] { ChDrive(app.Arbeitsverzeichnis.left(2)); });
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
-}
-
 bool dieselbeDatei(const QString& a, const QString& b)
 {
     const QString ka = QFileInfo(resolvePath(a)).canonicalFilePath();
@@ -83,7 +77,7 @@ void newdb_Click(Merkkartelle& app)
     if (bearbeitungOffen(app))
         return;
     const QString vorlage = joinPath(applicationHome(), QString::fromLatin1(TemplateDatabaseName));
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
 
     FileDialog dialog;
     dialog.FileName = QStringLiteral("Leer.mdb");
@@ -115,7 +109,7 @@ void newdb_Click(Merkkartelle& app)
     underIgnoredErrors([&] { INISchreiben(QStringLiteral("ReadOnly"), QStringLiteral("0")); });
     underIgnoredErrors([&] { INISchreiben(QStringLiteral("DbTelephone"), QStringLiteral("0")); });
 
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
     KartensitzungSchliessen(app);
     app.NurLesen = QStringLiteral("0");
     KartensitzungOeffnen(app, false);
@@ -140,7 +134,7 @@ void compactar_Click(Merkkartelle& app)
                       vbOKOnly, kTitel);
     else
         app.ui.MsgBox(fehler, vbExclamation, kTitel);
-    arbeitsverzeichnisSetzen(app);
+    ArbeitsverzeichnisSetzen(app);
 }
 
 void registerDatabaseToolHandlers(HandlerTable& table)

@@ -203,19 +203,26 @@ void insertRow(Recordset::Impl& d)
 {
     store::Connection& conn = connectionOf(d);
     const store::TableInfo& table = *d.source.table;
-    std::string columns, places;
     std::vector<QVariant> params;
     for (std::size_t i = 0; i < table.fields.size(); ++i) {
-        if (!d.touched[i])
-            continue;
-        columns += (columns.empty() ? "" : ", ") + store::quoteName(table.fields[i].Name);
-        params.push_back(d.buffer[i]);
-        places += (places.empty() ? "?" : ", ?") + std::to_string(params.size());
+        if (d.touched[i])
+            params.push_back(d.buffer[i]);
     }
-    const std::string sql = params.empty()
-        ? "INSERT INTO " + table.quotedName + " DEFAULT VALUES"
-        : "INSERT INTO " + table.quotedName + " (" + columns + ") VALUES (" + places + ")";
-    sqlite3_stmt* stmt = conn.statement(sql);
+    if (d.insertSql.empty() || d.insertColumns != d.touched) {
+        std::string columns, places;
+        int n = 0;
+        for (std::size_t i = 0; i < table.fields.size(); ++i) {
+            if (!d.touched[i])
+                continue;
+            columns += (columns.empty() ? "" : ", ") + store::quoteName(table.fields[i].Name);
+            places += (places.empty() ? "?" : ", ?") + std::to_string(++n);
+        }
+        d.insertSql = params.empty()
+            ? "INSERT INTO " + table.quotedName + " DEFAULT VALUES"
+            : "INSERT INTO " + table.quotedName + " (" + columns + ") VALUES (" + places + ")";
+        d.insertColumns = d.touched;
+    }
+    sqlite3_stmt* stmt = conn.statement(d.insertSql);
     jet::bindParameters(stmt, params);
     store::runToEnd(conn, stmt);
     d.keys->keys.push_back(sqlite3_last_insert_rowid(conn.db));

@@ -177,6 +177,10 @@ struct Recordset::Impl {
     EditMode mode = EditMode::None;
     std::vector<QVariant> buffer;
     std::vector<bool> touched;
+    // The INSERT of the last AddNew and the columns it wrote: a run of cards that fill the
+    // same columns builds it once.
+    std::vector<bool> insertColumns;
+    std::string insertSql;
 
     void placeAtFirst();
 };
