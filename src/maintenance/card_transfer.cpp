@@ -6,6 +6,8 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 
+#include <exception>
+
 namespace mk {
 
 namespace {
@@ -109,15 +111,54 @@ struct Ziel {
     }
 };
 
+// A target whose table lacks columns of the card would refuse every card, each with a box
+// of its own: it is refused once, before any card is written.
+// It is no run-time error, so that the run's ignoring of errors lets it through.
+class FehlendeSpalten : public std::exception {
+public:
+    explicit FehlendeSpalten(const QStringList& spalten)
+        : Description(QStringLiteral("Der Zieldatenbank fehlen die Felder: ") + spalten.join(QStringLiteral(", ")))
+    {
+    }
+    const char* what() const noexcept override { return "missing columns"; }
+    QString Description;
+};
+
+void spaltenPruefen(Recordset& quelle, Recordset& ziel)
+{
+    QStringList vorhanden;
+    for (const FieldDef& f : ziel.fieldDefs())
+        vorhanden << f.Name;
+    QStringList fehlend;
+    for (const FieldDef& f : quelle.fieldDefs())
+        if (!vorhanden.contains(f.Name, Qt::CaseInsensitive))
+            fehlend << f.Name;
+    if (!fehlend.isEmpty())
+        throw FehlendeSpalten(fehlend);
+}
+
 // Step 5: the target's cursor, at its last card.
 Ziel zielOeffnen(Merkkartelle& app, const QString& pfad)
 {
     Ziel ziel;
     ziel.datenbank = Database::open(resolvePath(pfad));
     ziel.satz = ziel.datenbank->createDynaset(app.Tabellenname);
+    spaltenPruefen(*app.Kartensatz, *ziel.satz);
     if (ziel.satz->RecordCount() != 0)
         ziel.satz->MoveLast();
     return ziel;
+}
+
+// The run under ignored errors, but for a target of another structure, which is told.
+template <class Lauf>
+void kopieren(Merkkartelle& app, Lauf&& lauf)
+{
+    try {
+        underIgnoredErrors(std::forward<Lauf>(lauf));
+    } catch (const FehlendeSpalten& fehler) {
+        hinweisSchliessen(app);
+        app.ui.MsgBox(fehler.Description, vbExclamation);
+    }
 }
 
 }  // namespace
@@ -130,7 +171,7 @@ void copiardb_Click(Merkkartelle& app)
     hinweisZeigen(app, pfad, QStringLiteral("Daten werden kopiert...."), false);
     Ziel ziel;
     // A target without the table, or a card the target refuses, is passed over without a word.
-    underIgnoredErrors([&] {
+    kopieren(app, [&] {
         ziel = zielOeffnen(app, pfad);
         ziel.satz->AddNew();
         NurMitWert spalten(*app.Kartensatz, *ziel.satz);
@@ -210,7 +251,7 @@ void Multicopy_Click(Merkkartelle& app)
         return;
     hinweisZeigen(app, pfad, QStringLiteral("Copiando dados...."), true);
     // A target without the table gives no message, and nothing is copied.
-    underIgnoredErrors([&] { AlleKartenKopieren(app, pfad); });
+    kopieren(app, [&] { AlleKartenKopieren(app, pfad); });
     hinweisSchliessen(app);
 }
 

@@ -6,6 +6,7 @@
 #include "maintenance/card_transfer.h"
 
 #include <csignal>
+#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -98,6 +99,27 @@ TEST_F(TransferTest, ATargetWithoutTheTableTakesNothingAndSaysNothing)
     raiseEvent(app(), "Hauptmaske.Multicopy", "Click");
     EXPECT_EQ(readBytes(other), before);
     EXPECT_TRUE(ui().messageBoxes().empty());
+    EXPECT_FALSE(app().Message.Visible);
+}
+
+TEST_F(TransferTest, ATargetOfAnotherStructureIsRefusedOnceBeforeAnyCard)
+{
+    addCard({{"Nachname", "Zeller"}});
+    addCard({{"Nachname", "Adler"}});
+    start();
+    const QString other = joinPath(home, "schmal.mdb");
+    {
+        sqlite3* db = nullptr;
+        sqlite3_open(QFile::encodeName(other).constData(), &db);
+        sqlite3_exec(db, "CREATE TABLE Adressenstamm (Laufendenummer INTEGER PRIMARY KEY AUTOINCREMENT, Nachname TEXT(50))",
+                     nullptr, nullptr, nullptr);
+        sqlite3_close(db);
+    }
+    ui().answerOpen(other);
+    raiseEvent(app(), "Hauptmaske.Multicopy", "Click");
+    ASSERT_EQ(ui().messageBoxes().size(), 1u);
+    EXPECT_TRUE(ui().messageBoxes().at(0).prompt.startsWith("Der Zieldatenbank fehlen die Felder: Schluessel, Titel"));
+    EXPECT_EQ(Database::open(other)->createDynaset("Adressenstamm")->RecordCount(), 0);
     EXPECT_FALSE(app().Message.Visible);
 }
 
