@@ -42,8 +42,10 @@ int loeschKnoepfe(const Merkkartelle& app)
 }
 
 // The copy of the card before it goes. An existing copy of the same number is replaced only
-// when the user says so; either way the delete goes on.
-void kopieSichern(Merkkartelle& app, const QString& nummer)
+// when the user says so; either way the delete goes on. A copy that cannot be written (a
+// full disk, a folder without rights) stops the delete with a word: the card is the only
+// copy left. False then.
+bool kopieSichern(Merkkartelle& app, const QString& nummer)
 {
     ArbeitsverzeichnisSetzen(app);
     const QString pfad = dateiPfad(app, nummer);
@@ -51,8 +53,17 @@ void kopieSichern(Merkkartelle& app, const QString& nummer)
     underIgnoredErrors([&] { vorhanden = Dir(pfad); });
     if (!vorhanden.isEmpty()
         && app.ui.MsgBox(QStringLiteral("Bestehende Datei überschreiben "), vbYesNo, QStringLiteral("Speichern unter")) != vbYes)
-        return;
-    underIgnoredErrors([&] { GeloeschteKarteSchreiben(app, pfad); });
+        return true;
+    try {
+        GeloeschteKarteSchreiben(app, pfad);
+        return true;
+    } catch (const RuntimeError& fehler) {
+        app.ui.MsgBox(QStringLiteral("Die Sicherungskopie des Eintrags konnte nicht geschrieben werden:") + kZeilenumbruch
+                          + kEinzug + pfad + kZeilenumbruch + kEinzug + fehler.Description + kZeilenumbruch
+                          + QStringLiteral("Der Eintrag wurde nicht gelöscht."),
+                      vbOKOnly + vbCritical, QStringLiteral("Eintrag löschen"));
+        return false;
+    }
 }
 
 }  // namespace
@@ -104,7 +115,10 @@ void AdresseLöschen_Click(Merkkartelle& app)
     if (app.ui.MsgBox(loeschFrage(app, nummer), loeschKnoepfe(app), QStringLiteral("Eintrag löschen")) != vbYes)
         return;
 
-    kopieSichern(app, nummer);
+    if (!kopieSichern(app, nummer)) {
+        m.AdresseLöschen.Enabled = true;
+        return;
+    }
 
     underIgnoredErrors([&] { kartensatz(app).Delete(); });
     underIgnoredErrors([&] { kartensatz(app).MoveNext(); });

@@ -158,15 +158,27 @@ void Start(Merkkartelle& app)
 void KartensitzungOeffnen(Merkkartelle& app, bool nurLesen)
 {
     const QString pfad = datenbankPfad(app);
-    // Read-only is exclusive as well; writing shares the file. Failures stay silent, but for
-    // a file in the old Jet format: an empty mask would hide that it must be converted first.
+    // Read-only is exclusive as well; writing shares the file. A missing file stays silent,
+    // as the start expects; any other failure (a file in the old Jet format, a damaged, empty
+    // or foreign file, one held by another program) is told, since an empty mask would hide
+    // that the cards are still there and need the user.
+    const auto melden = [&](const RuntimeError& fehler) {
+        app.ui.MsgBox(fehler.Description, vbExclamation, QStringLiteral("Datenbank öffnen"));
+    };
     try {
         app.Kartendatenbank = Database::open(pfad, nurLesen, nurLesen);
     } catch (const RuntimeError& fehler) {
-        if (fehler.Number == err::JetFormat)
-            app.ui.MsgBox(fehler.Description, vbExclamation, QStringLiteral("Datenbank öffnen"));
+        if (fehler.Number != err::FileNotFoundDb)
+            melden(fehler);
     }
-    underIgnoredErrors([&] { app.Kartensatz = datenbank(app.Kartendatenbank).createDynaset(app.Tabellenname); });
+    // The cursor is the first read of the cards: a damaged file shows here.
+    try {
+        if (app.Kartendatenbank)
+            app.Kartensatz = app.Kartendatenbank->createDynaset(app.Tabellenname);
+    } catch (const RuntimeError& fehler) {
+        if (fehler.Number == err::DatabaseDamaged || fehler.Number == err::UnrecognizedFormat)
+            melden(fehler);
+    }
     underIgnoredErrors([&] { app.Zweitdatenbank = Database::open(pfad, nurLesen, nurLesen); });
     underIgnoredErrors([&] { app.Zweitsatz = datenbank(app.Zweitdatenbank).createDynaset(app.Tabellenname); });
 }

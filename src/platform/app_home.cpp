@@ -65,10 +65,12 @@ void layoutApplicationHome()
         const char* name;
         DatabaseKind kind;
     } files[] = {
-        {TemplateDatabaseName, DatabaseKind::Cards},
         {GlobalViewName, DatabaseKind::GlobalView},
         {DefaultDatabaseName, DatabaseKind::Cards},
         {TelephoneName, DatabaseKind::Telephone},
+        // The template marks a finished first start, so it comes last: a first start cut
+        // short is done again, and makes what is still missing.
+        {TemplateDatabaseName, DatabaseKind::Cards},
     };
     for (const auto& file : files) {
         const QString path = joinPath(home, QString::fromLatin1(file.name));

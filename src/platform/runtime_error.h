@@ -61,6 +61,7 @@ constexpr int FileNotFoundDb = 3024;    // OpenDatabase on a missing file
 constexpr int FileInUse = 3045;         // locked by an exclusive opener, or open when compacted
 constexpr int UnrecognizedFormat = 3343; // not a database at all
 constexpr int JetFormat = 3344;         // a real Jet file: must be converted first
+constexpr int DatabaseDamaged = 3049;   // the file is a database, but damaged
 constexpr int InvalidBookmark = 3159;
 constexpr int ObjectClosed = 3420;
 }  // namespace err

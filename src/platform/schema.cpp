@@ -136,8 +136,12 @@ void createEmptyDatabase(DatabaseKind kind, const QString& path)
     if (QFileInfo::exists(path))
         throw RuntimeError(err::FileAlreadyExists,
                            QStringLiteral("Die Datei %1 existiert bereits.").arg(path));
+    // Made under a name of its own and renamed when whole: a crash half way never leaves a
+    // database without its table under the real name.
+    const QString partial = path + QStringLiteral(".entsteht");
+    QFile::remove(partial);
     sqlite3* db = nullptr;
-    int rc = sqlite3_open_v2(path.toUtf8().constData(), &db,
+    int rc = sqlite3_open_v2(QFile::encodeName(partial).constData(), &db,
                              SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     if (rc == SQLITE_OK)
         rc = sqlite3_exec(db, createTableSql(kind).c_str(), nullptr, nullptr, nullptr);
@@ -145,8 +149,8 @@ void createEmptyDatabase(DatabaseKind kind, const QString& path)
         rc = sqlite3_exec(db, createKeyIndexSql(kind).c_str(), nullptr, nullptr, nullptr);
     const QString message = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString();
     sqlite3_close_v2(db);
-    if (rc != SQLITE_OK) {
-        QFile::remove(path);  // no half-made database is left behind
+    if (rc != SQLITE_OK || !QFile::rename(partial, path)) {
+        QFile::remove(partial);
         throw RuntimeError(err::PathNotFound,
                            QStringLiteral("Die Datenbank %1 konnte nicht angelegt werden (%2).")
                                .arg(path, message));

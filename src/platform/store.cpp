@@ -214,6 +214,10 @@ void Connection::fail(int rc) const
     case SQLITE_NOTADB:
         raise(err::UnrecognizedFormat,
               QStringLiteral("Die Datei %1 ist keine Datenbank oder hat ein unbekanntes Format.").arg(path));
+    case SQLITE_CORRUPT:
+        raise(err::DatabaseDamaged,
+              QStringLiteral("Die Datenbank %1 ist beschädigt und kann nicht gelesen werden (%2). "
+                             "Bitte eine Sicherungskopie verwenden.").arg(path, message));
     default: raise(EngineError, QStringLiteral("Datenbankfehler: %1").arg(message));
     }
 }
@@ -344,8 +348,13 @@ DatabasePtr Database::open(const QString& path, bool exclusive, bool readOnly)
     if (rc != SQLITE_OK)
         conn->fail(rc);
     conn->readOnly = readOnly || sqlite3_db_readonly(conn->db, "main") == 1;
-    if (!conn->readOnly)
+    if (!conn->readOnly) {
+        // A rollback journal, synced in full at every commit: a card whose save returned is on
+        // the disk, and a write cut by a crash is rolled back at the next open. The database
+        // stays one file, which the backup copies whole.
+        sqlite3_exec(conn->db, "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
         store::addMissingKeyIndexes(conn->db);
+    }
 
     DatabasePtr db(new Database());
     db->d->conn = std::move(conn);

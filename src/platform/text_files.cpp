@@ -6,6 +6,7 @@
 #include <QStringDecoder>
 
 #include <charconv>
+#include <exception>
 #include <string>
 
 namespace mk {
@@ -121,26 +122,45 @@ QString writeRecord(const std::vector<WriteValue>& values)
     return parts.join(u',');
 }
 
-TextWriter::TextWriter(const QString& path, Mode mode)
+TextWriter::TextWriter(const QString& path, Mode mode) : unwinding_(std::uncaught_exceptions())
 {
-    file_.setFileName(openablePath(path));
-    const QIODevice::OpenMode how =
-        mode == Mode::Append ? QIODevice::Append : QIODevice::WriteOnly | QIODevice::Truncate;
-    if (!file_.open(how))
+    const QString resolved = openablePath(path);
+    bool opened = false;
+    if (mode == Mode::Append) {
+        appended_.setFileName(resolved);
+        opened = appended_.open(QIODevice::Append);
+        file_ = &appended_;
+    } else {
+        // A read-only file must not be replaced behind its back: the rename would do it.
+        const QFileInfo old(resolved);
+        whole_.setFileName(resolved);
+        whole_.setDirectWriteFallback(true);  // a folder we may not create files in: write in place
+        opened = !(old.exists() && !old.isWritable()) && whole_.open(QIODevice::WriteOnly);
+        file_ = &whole_;
+    }
+    if (!opened)
         raiseFileError(err::PermissionDenied);
 }
 
 TextWriter::~TextWriter()
 {
-    file_.close();
+    if (!file_->isOpen())
+        return;
+    if (file_ == &whole_ && std::uncaught_exceptions() > unwinding_)
+        whole_.cancelWriting();  // an error half way: the old file stays
+    try {
+        close();
+    } catch (const RuntimeError&) {
+        // A destructor cannot report; callers that must know call close() themselves.
+    }
 }
 
 void TextWriter::put(const QString& text)
 {
-    if (!file_.isOpen())
+    if (!file_->isOpen())
         raiseFileError(err::BadFileName);
     const QByteArray bytes = text.toUtf8();
-    if (file_.write(bytes) != bytes.size())
+    if (file_->write(bytes) != bytes.size())
         raiseFileError(err::PathFileAccess);
 }
 
@@ -156,7 +176,16 @@ void TextWriter::print(const QString& text)
 
 void TextWriter::close()
 {
-    file_.close();
+    if (!file_->isOpen())
+        return;
+    if (file_ == &appended_) {
+        const bool flushed = appended_.flush();
+        appended_.close();
+        if (!flushed)
+            raiseFileError(err::PathFileAccess);
+    } else if (!whole_.commit()) {
+        raiseFileError(err::PathFileAccess);
+    }
 }
 
 void writePositionalFile(const QString& path, const std::vector<WriteValue>& values)
@@ -164,6 +193,7 @@ void writePositionalFile(const QString& path, const std::vector<WriteValue>& val
     TextWriter writer(path);
     for (const WriteValue& value : values)
         writer.write({value});
+    writer.close();
 }
 
 void printLines(const QString& path, const QStringList& lines)
@@ -171,6 +201,7 @@ void printLines(const QString& path, const QStringList& lines)
     TextWriter writer(path);
     for (const QString& line : lines)
         writer.print(line);
+    writer.close();
 }
 
 // ---- Input # ---------------------------------------------------------------------------

@@ -10,6 +10,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QSaveFile>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -62,6 +63,10 @@ QString decodeTextFile(const QByteArray& bytes);
 // Open … For Output / For Append, then Write # and Print #, then Close. Opening raises
 // err::PathNotFound for a missing folder and err::PermissionDenied for a file that cannot
 // be written. The destructor closes.
+// A file opened for output is written beside the old one and takes its place only when it
+// is closed whole: a crash, a full disk or an error half way leaves the old file as it was.
+// close() raises err::PathFileAccess when the new file could not be put in place; a writer
+// that goes out of scope without close() while an error unwinds keeps the old file.
 class TextWriter {
 public:
     enum class Mode { Output, Append };
@@ -76,7 +81,10 @@ public:
 
 private:
     void put(const QString& text);
-    QFile file_;
+    QSaveFile whole_;  // Output
+    QFile appended_;   // Append
+    QFileDevice* file_ = nullptr;
+    int unwinding_ = 0;  // exceptions in flight when the writer was made
 };
 
 // Writes a whole positional file: one value a line, each line ended by CR LF.

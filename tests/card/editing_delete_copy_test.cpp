@@ -6,6 +6,7 @@
 #include "card/card_editing.h"
 #include "card/deleted_cards.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace mk::test {
@@ -180,6 +181,25 @@ TEST_F(DeleteCard, AnExistingCopyKeptByNoStillDeletesTheOnlyCard)
     EXPECT_EQ(ui.messageBoxes().back().prompt,
               QStringLiteral("Keine Daten gefunden - leere Datenbank.\r\nLöschen nicht möglich."));
     EXPECT_EQ(ui.messageBoxes().back().title, QStringLiteral("Löschen"));
+}
+
+TEST_F(DeleteCard, ACopyThatCannotBeWrittenKeepsTheCardAndSaysWhy)
+{
+    const QString nummer = karte({{"Nachname", QStringLiteral("Bleibt")}});
+    oeffnen();
+    // A folder where the copy should go: nothing can be written under that name.
+    const QString datei = dir.filePath(nummer + QStringLiteral(".dat"));
+    ASSERT_TRUE(QDir().mkdir(datei));
+    ui.answerMsgBox(vbYes);
+    klick("Hauptmaske.AdresseLöschen");
+
+    ASSERT_EQ(ui.messageBoxes().size(), 2u);
+    EXPECT_TRUE(ui.messageBoxes()[1].prompt.startsWith(
+        QStringLiteral("Die Sicherungskopie des Eintrags konnte nicht geschrieben werden:\r\n   ") + datei));
+    EXPECT_TRUE(ui.messageBoxes()[1].prompt.endsWith(QStringLiteral("\r\nDer Eintrag wurde nicht gelöscht.")));
+    EXPECT_EQ(anzahl(), 1);
+    EXPECT_EQ(m.feld[4].Text, QStringLiteral("Bleibt"));
+    EXPECT_TRUE(m.AdresseLöschen.Enabled);
 }
 
 TEST_F(DeleteCard, RestoreCancelledLeavesTheNewCardOpen)

@@ -211,5 +211,32 @@ TEST_F(SessionTest, AJetFileIsRefusedWithAWordAndTheMaskStaysEmpty)
     EXPECT_EQ(mask().Label8.Caption, "Eintrag 0 von 0 ");
 }
 
+TEST_F(SessionTest, ADamagedEmptyOrForeignDatabaseIsToldAndTheProgramWorksOn)
+{
+    threeCards();
+    QFile original(defaultDatabase());
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray whole = original.readAll();
+    original.close();
+    const QByteArray broken[] = {QByteArray(), "Name;Stadt\r\nAdler;Köln\r\n", whole.left(60), whole.left(whole.size() / 2)};
+    for (const QByteArray& bytes : broken) {
+        restart();
+        QFile f(defaultDatabase());
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(bytes);
+        f.close();
+        start();
+        const auto boxes = ui().messageBoxes();
+        ASSERT_EQ(boxes.size(), 1u) << bytes.size();
+        EXPECT_TRUE(boxes[0].prompt.contains(defaultDatabase())) << boxes[0].prompt.toStdString();
+        EXPECT_EQ(boxes[0].title, "Datenbank öffnen");
+        EXPECT_TRUE(mask().Visible);
+        // The mask works: the user can open another database.
+        ui().answerOpenCancel();
+        click("Hauptmaske.abrirdmb");
+        EXPECT_FALSE(ui().ended);
+    }
+}
+
 }  // namespace
 }  // namespace mk::test
