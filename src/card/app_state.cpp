@@ -13,7 +13,11 @@
 #include "search/grid_search.h"
 #include "search/quick_search.h"
 #include "search/syllable_search.h"
+#include "attachments/linked_files.h"
+#include "history/global_view.h"
+#include "maintenance/maintenance.h"
 #include "search/type_marks.h"
+#include "settings/password.h"
 #include "settings/pick_lists.h"
 #include "settings/settings_file.h"
 #include "telephony/telephony_handlers.h"
@@ -34,6 +38,7 @@ Merkkartelle::Merkkartelle(UserInterface& ui_, Clock& clock_) : ui(ui_), clock(c
     forms.add(Form6);
     forms.add(form4);
     forms.add(malaview);
+    forms.add(senha);
     forms.add(mala);
     forms.add(malasp);
     forms.add(Schnellsuchen);
@@ -84,6 +89,9 @@ void registerAllHandlers(HandlerTable& table)
     registerGridSearchHandlers(table);
     registerFieldSelectionHandlers(table);
     registerSyllableSearchHandlers(table);
+    registerMaintenanceHandlers(table);
+    registerPasswordHandlers(table);
+    registerAttachmentHandlers(table);
 }
 
 bool raiseEvent(Merkkartelle& app, const QString& path, const QString& event, EventArgs& args)

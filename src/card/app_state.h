@@ -25,6 +25,7 @@
 #include "forms/malasp.h"
 #include "forms/replay.h"
 #include "forms/schnellsuchen.h"
+#include "forms/senha.h"
 #include "forms/search.h"
 #include "forms/selektierung.h"
 #include "forms/suchergebnis.h"
@@ -112,6 +113,7 @@ struct Merkkartelle {
     std::array<QString, 101> Feldbenennung;      // values read from a .den file, 0 to 24 used
     QString DezimalZeichen = QStringLiteral(",");
     int Passwortmodus = 0;                       // 0 login at start, 1 change of the password
+    bool PasswortAngenommen = false;             // the word typed into senha was the stored one
 
     // --- the forms ------------------------------------------------------------------------------
     mk::Hauptmaske Hauptmaske;
@@ -125,6 +127,7 @@ struct Merkkartelle {
     mk::Form6 Form6;
     mk::form4 form4;
     mk::malaview malaview;
+    mk::senha senha;
     mk::mala mala;
     mk::malasp malasp;
     mk::Schnellsuchen Schnellsuchen;

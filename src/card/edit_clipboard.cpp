@@ -5,6 +5,7 @@
 #include "search/field_selection.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
+#include "maintenance/export.h"
 
 #include <algorithm>
 
@@ -119,7 +120,8 @@ void BildAussuchen(Merkkartelle& app)
 }
 
 // While browsing, these buttons belong to subsystems of their own (the selection, the export,
-// the labels); until those answer here a click in browse state does nothing.
+// the labels); until those answer here a click in browse state does nothing. The export
+// answers.
 void Command3D23_Click(Merkkartelle& app)
 {
     if (bearbeitungOffen(app))
@@ -132,6 +134,8 @@ void Command3D25_Click(Merkkartelle& app)
 {
     if (bearbeitungOffen(app))
         Einfuegen(app);
+    else
+        frmExport_Show(app);
 }
 
 void Command3D13_Click(Merkkartelle& app)

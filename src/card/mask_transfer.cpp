@@ -126,6 +126,42 @@ void BildEinpassen(Image& bild, const Control& rahmen)
 
 // ---- card into mask ---------------------------------------------------------------------------
 
+namespace {
+
+// The columns of the current card into their slots; with the display, each column also
+// drives what it shows beside its slot.
+void spaltenInMaske(Merkkartelle& app, bool mitAnzeige)
+{
+    auto& m = app.Hauptmaske;
+    for (const Spalte& spalte : spalten()) {
+        underIgnoredErrors([&] {
+            const QString wert = kartensatz(app).Fields(spalte.name).text();  // Null reads as ""
+            if (spalte.art == Art::Typ) {
+                app.Typzeichen = wert;
+                TypInMaske(app, wert);
+            } else {
+                slotVon(app, spalte) = wert;
+            }
+            if (spalte.art == Art::Zaehler) {
+                m.datalabel.Caption = wert;
+                m.LaufendeNummer.Hint = QStringLiteral("Laufende Nummer ") + wert + QStringLiteral("  (Datenbankregistriernummer)");
+            }
+        });
+        if (mitAnzeige)
+            nachDerSpalte(app, spalte);
+    }
+}
+
+}  // namespace
+
+void KarteInMaskenfelder(Merkkartelle& app)
+{
+    if (kartenzahl(app) == 0)
+        MaskeLeeren(app);
+    else
+        spaltenInMaske(app, false);
+}
+
 void DatenInMaske(Merkkartelle& app)
 {
     auto& m = app.Hauptmaske;
@@ -144,23 +180,7 @@ void DatenInMaske(Merkkartelle& app)
     }
 
     PositionAnzeigen(app);
-
-    for (const Spalte& spalte : spalten()) {
-        underIgnoredErrors([&] {
-            const QString wert = kartensatz(app).Fields(spalte.name).text();  // Null reads as ""
-            if (spalte.art == Art::Typ) {
-                app.Typzeichen = wert;
-                TypInMaske(app, wert);
-            } else {
-                slotVon(app, spalte) = wert;
-            }
-            if (spalte.art == Art::Zaehler) {
-                m.datalabel.Caption = wert;
-                m.LaufendeNummer.Hint = QStringLiteral("Laufende Nummer ") + wert + QStringLiteral("  (Datenbankregistriernummer)");
-            }
-        });
-        nachDerSpalte(app, spalte);
-    }
+    spaltenInMaske(app, true);
 
     m.AdresseÄndern.Enabled = true;
     m.AdresseLöschen.Enabled = true;
@@ -257,11 +277,33 @@ void TypInMaske(Merkkartelle& app, const QString& typ)
 
 // ---- mask into card ---------------------------------------------------------------------------
 
+namespace {
+
+void strukturfehler(Merkkartelle& app, const RuntimeError& fehler)
+{
+    app.ui.MsgBox(QStringLiteral("Speicherung abgebrochen - Strukturfehler ") + QLatin1Char('\r') + QStringLiteral("       ")
+                      + fehler.Description + QLatin1Char('\r'),
+                  vbCritical);
+}
+
+}  // namespace
+
 void MaskeInDaten(Merkkartelle& app)
+{
+    Recordset* satz = nullptr;
+    try {
+        satz = &kartensatz(app);
+    } catch (const RuntimeError& fehler) {
+        strukturfehler(app, fehler);
+        return;
+    }
+    MaskeInDatenMulti(app, *satz);
+}
+
+void MaskeInDatenMulti(Merkkartelle& app, Recordset& satz)
 {
     const auto& liste = spalten();
     try {
-        Recordset& satz = kartensatz(app);
         for (std::size_t i = 0; i < liste.size(); ++i) {
             const Spalte& spalte = liste[i];
             switch (spalte.art) {
@@ -292,9 +334,7 @@ void MaskeInDaten(Merkkartelle& app)
             }
         }
     } catch (const RuntimeError& fehler) {
-        app.ui.MsgBox(QStringLiteral("Speicherung abgebrochen - Strukturfehler ") + QLatin1Char('\r') + QStringLiteral("       ")
-                          + fehler.Description + QLatin1Char('\r'),
-                      vbCritical);
+        strukturfehler(app, fehler);
     }
 }
 

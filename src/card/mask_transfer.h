@@ -7,6 +7,7 @@
 namespace mk {
 
 struct Merkkartelle;
+class Recordset;
 struct Image;
 struct Control;
 
@@ -15,12 +16,17 @@ struct Control;
 // its slot as it was; Null reads as the empty text. With no card: MaskeLeeren and the
 // position display only.
 void DatenInMaske(Merkkartelle& app);
+// Only the card's values into their slots and type boxes, without what the shown card
+// drives: for walks that carry every card through the mask and show the last one at the end.
+void KarteInMaskenfelder(Merkkartelle& app);
 
 // Mask into the record buffer of Kartensatz; the caller holds AddNew or Edit and calls
 // Update afterwards. Every column by name, an empty slot as the empty text; Laufendenummer
 // is never written. A failure outside the guarded columns stops the writing with the box
 // "Speicherung abgebrochen - Strukturfehler " and leaves the buffer as written so far.
 void MaskeInDaten(Merkkartelle& app);
+// The same writing into the record buffer of another cursor (the card transfer's target).
+void MaskeInDatenMulti(Merkkartelle& app, Recordset& satz);
 
 // Clears every slot of the mask and the connections; dataold and datalabel stay.
 void MaskeLeeren(Merkkartelle& app);

@@ -15,6 +15,7 @@
 #include "platform/store.h"
 #include "platform/text_files.h"
 #include "settings/field_naming.h"
+#include "settings/password.h"
 #include "settings/settings_file.h"
 
 namespace mk {
@@ -138,6 +139,9 @@ void Start(Merkkartelle& app)
     underIgnoredErrors([&] { app.Gesamtsatz = datenbank(app.Gesamtdatenbank).createDynaset(QStringLiteral("GlobalView")); });
 
     datenbankdateiPruefen(app);
+    // A guarded directory: only the right word lets the start go on.
+    if (!PasswortAbfragen(app))
+        End(app);
 
     splashBeschriften(app);
     showForm(app, app.AboutBox);
@@ -255,6 +259,8 @@ void abrirdmb_Click(Merkkartelle& app)
         underIgnoredErrors([&] { StandardBenennungSchreiben(app); });
     }
 
+    const QString bisherVerzeichnis = app.Arbeitsverzeichnis;
+    const QString bisherDatei = app.Datenbankdatei;
     int flags = 0;
     const GlobalViewChoice gewaehlt = malaglobalviewZeigen(app);
     if (gewaehlt.chosen) {
@@ -270,6 +276,14 @@ void abrirdmb_Click(Merkkartelle& app)
         app.Arbeitsverzeichnis = DateiPfad(wahl.FileName);
         app.Datenbankdatei = DateiName(wahl.FileName);
         flags = wahl.Flags;
+    }
+
+    // The word of a guarded directory is asked while the old session is still whole; a
+    // window closed without it keeps the old database.
+    if (!PasswortAbfragen(app)) {
+        app.Arbeitsverzeichnis = bisherVerzeichnis;
+        app.Datenbankdatei = bisherDatei;
+        return;
     }
 
     KartensitzungSchliessen(app);
@@ -336,21 +350,28 @@ void SitzungZaehlen(Merkkartelle& app)
     underIgnoredErrors([&] { writePositionalFile(kSessionDatei, {WriteValue(neu)}); });
 }
 
+bool OffeneBearbeitungBeenden(Merkkartelle& app)
+{
+    if (!bearbeitungOffen(app))
+        return true;
+    const QString frage = (aenderungOffen(app) ? QStringLiteral("Editierung des Eintrags abbrechen ?")
+                                                : QStringLiteral("Neuen Eintrag abbrechen ?"))
+        + QStringLiteral("\r\n") + QStringLiteral("Programm beenden ?");
+    if (app.ui.MsgBox(frage, vbYesNo) != vbYes)
+        return false;
+    if (aenderungOffen(app))
+        AdresseÄndernAbbruch_Click(app);
+    else
+        NeueAdresseAbbruch_Click(app);
+    return true;
+}
+
 void SSCommand1_Click(Merkkartelle& app)
 {
     auto& m = app.Hauptmaske;
     const bool offen = bearbeitungOffen(app);
-    if (offen) {
-        const QString frage = (aenderungOffen(app) ? QStringLiteral("Editierung des Eintrags abbrechen ?")
-                                                    : QStringLiteral("Neuen Eintrag abbrechen ?"))
-            + QStringLiteral("\r\n") + QStringLiteral("Programm beenden ?");
-        if (app.ui.MsgBox(frage, vbYesNo) != vbYes)
-            return;
-        if (aenderungOffen(app))
-            AdresseÄndernAbbruch_Click(app);
-        else
-            NeueAdresseAbbruch_Click(app);
-    }
+    if (!OffeneBearbeitungBeenden(app))
+        return;
 
     m.Label36.Caption = m.LaufendeNummer.Caption;
     m.Label5.ForeColor = colour::Red;

@@ -53,6 +53,11 @@ void KartensitzungSchliessen(Merkkartelle& app);
 long SitzungenLesen(Merkkartelle& app);
 void SitzungZaehlen(Merkkartelle& app);
 
+// The first step of every way out: with a card open for entry or change, the question
+// whether to give it up and leave; on yes the entry or change is cancelled. False when the
+// user stays.
+bool OffeneBearbeitungBeenden(Merkkartelle& app);
+
 // Menu items and buttons.
 void abrirdmb_Click(Merkkartelle& app);
 void fechardb_Click(Merkkartelle& app);

@@ -81,6 +81,7 @@ struct TextBox : Control, TextSelection {
     bool Locked = false;
     bool MultiLine = false;
     int Alignment = vbLeftJustify;
+    QString PasswordChar;  // shown in place of each character when not empty
 };
 
 // What the user can put into a text box: typed or pasted text stops at MaxLength.

@@ -181,7 +181,7 @@ PropertyTable tableFor<TextBox>()
     Builder<Control, TextBox>(t).controlCommon().selection()
         .text("Text", &TextBox::Text).integer("MaxLength", &TextBox::MaxLength)
         .flag("Locked", &TextBox::Locked).flag("MultiLine", &TextBox::MultiLine)
-        .integer("Alignment", &TextBox::Alignment);
+        .integer("Alignment", &TextBox::Alignment).text("PasswordChar", &TextBox::PasswordChar);
     return t;
 }
 

@@ -81,9 +81,9 @@ QVariant RowCopy::value(std::size_t column) const
     }
 }
 
-bool RowBlock::holds(long index, std::chrono::steady_clock::time_point now) const
+bool RowBlock::holds(long index, std::chrono::steady_clock::time_point now, std::uint64_t writes) const
 {
-    return index >= first && index < first + count && serial == writeSerial() && now - taken < FreshFor;
+    return index >= first && index < first + count && serial == writes && now - taken < FreshFor;
 }
 
 void runToEnd(Connection& conn, sqlite3_stmt* stmt)
@@ -347,7 +347,7 @@ void fillWholeTable(Connection& conn, const TableInfo& table, MatchSet& set)
 // True while nothing has written since the set was taken.
 bool stillValid(Connection& conn, MatchSet& set)
 {
-    if (set.serial != writeSerial())
+    if (set.serial != conn.writeSerial())
         return false;
     const auto now = std::chrono::steady_clock::now();
     if (now - set.checked < FreshFor)
@@ -372,7 +372,7 @@ MatchSet& matchSetFor(Connection& conn, const Source& source, KeySet& keys, cons
     }
     MatchSet set;
     set.criteria = criteria;
-    set.serial = writeSerial();
+    set.serial = conn.writeSerial();
     set.dataVersion = conn.dataVersion();
     set.checked = std::chrono::steady_clock::now();
     set.sql = jet::toSql(*jet::parseExpression(criteria), source.table->resolver(),

@@ -8,9 +8,15 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <system_error>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace mk {
 
@@ -162,6 +168,55 @@ bool wildcardMatch(QStringView name, QStringView pattern)
     return wildcardMatch(name.mid(1), pattern.mid(1));
 }
 
+// The runtime's number for a failed write: a full disk, a target that may not be written,
+// or any other failure to reach the file.
+int writeErrorNumber(int error)
+{
+    switch (error) {
+    case ENOSPC:
+    case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+        return err::DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return err::PermissionDenied;
+    default:
+        return err::PathFileAccess;
+    }
+}
+
+// Copies the bytes of from into to and makes them durable; the runtime's number of the
+// failure, or 0.
+int copyBytes(const QString& from, const QString& to)
+{
+    QFile in(from);
+    if (!in.open(QIODevice::ReadOnly))
+        return err::PermissionDenied;
+    std::FILE* out = std::fopen(QFile::encodeName(to).constData(), "wb");
+    if (!out)
+        return writeErrorNumber(errno);
+    int failure = 0;
+    while (!failure && !in.atEnd()) {
+        const QByteArray chunk = in.read(1 << 20);
+        if (chunk.isEmpty())
+            failure = err::PathFileAccess;
+        else if (std::fwrite(chunk.constData(), 1, std::size_t(chunk.size()), out) != std::size_t(chunk.size()))
+            failure = writeErrorNumber(errno);
+    }
+    if (!failure && std::fflush(out) != 0)
+        failure = writeErrorNumber(errno);
+#ifdef Q_OS_UNIX
+    if (!failure && ::fsync(::fileno(out)) != 0)
+        failure = writeErrorNumber(errno);
+#endif
+    if (std::fclose(out) != 0 && !failure)
+        failure = writeErrorNumber(errno);
+    return failure;
+}
+
 void requireFolder(const QString& path)
 {
     if (!isFolder(DateiPfad(path)))
@@ -177,6 +232,7 @@ QString fileErrorDescription(int number)
     case err::BadFileName: return QStringLiteral("Dateiname oder -nummer falsch");
     case err::FileNotFound: return QStringLiteral("Datei nicht gefunden");
     case err::FileAlreadyExists: return QStringLiteral("Datei existiert bereits");
+    case err::DiskFull: return QStringLiteral("Datenträger voll");
     case err::InputPastEnd: return QStringLiteral("Einlesen hinter Dateiende");
     case err::PermissionDenied: return QStringLiteral("Zugriff verweigert");
     case err::PathFileAccess: return QStringLiteral("Fehler beim Zugriff auf Pfad/Datei");
@@ -275,11 +331,19 @@ void FileCopy(const QString& source, const QString& destination)
     if (std::filesystem::exists(fsPath(to), ec) && std::filesystem::equivalent(fsPath(from), fsPath(to), ec))
         raiseFileError(err::PermissionDenied);
     const auto modified = std::filesystem::last_write_time(fsPath(from), ec);
-    std::filesystem::copy_file(fsPath(from), fsPath(to),
-                               std::filesystem::copy_options::overwrite_existing, ec);
-    if (ec)
-        raiseFileError(ec == std::errc::permission_denied ? err::PermissionDenied
-                                                          : err::PathFileAccess);
+    // The copy is made beside the target and takes its name only when it is whole: a copy
+    // that fails half way leaves the earlier target as it was and no piece of the new one.
+    const QString part = to + QStringLiteral(".kopie~");
+    int failure = copyBytes(from, part);
+    if (!failure) {
+        std::filesystem::rename(fsPath(part), fsPath(to), ec);
+        if (ec)
+            failure = writeErrorNumber(ec.value());
+    }
+    if (failure) {
+        QFile::remove(part);
+        raiseFileError(failure);
+    }
     std::filesystem::last_write_time(fsPath(to), modified, ec);  // as the old copy kept it
 }
 

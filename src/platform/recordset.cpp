@@ -141,7 +141,7 @@ void fetchBlock(Recordset::Impl& d, store::Connection& conn, long first, long co
         conn.fail(rc);
     block.first = first;
     block.count = count;
-    block.serial = store::writeSerial();
+    block.serial = conn.writeSerial();
     block.taken = std::chrono::steady_clock::now();
 }
 
@@ -152,7 +152,7 @@ const store::RowCopy& currentRow(Recordset::Impl& d)
         noCurrentRecord();
     const long i = d.index;
     store::RowBlock& block = d.block;
-    if (!block.holds(i, std::chrono::steady_clock::now())) {
+    if (!block.holds(i, std::chrono::steady_clock::now(), conn.writeSerial())) {
         long first = i;
         long count = 1;
         if (d.lastRead >= 0 && i != d.lastRead && std::abs(i - d.lastRead) <= 2) {  // a walk
@@ -226,19 +226,26 @@ void insertRow(Recordset::Impl& d)
 {
     store::Connection& conn = connectionOf(d);
     const store::TableInfo& table = *d.source.table;
-    std::string columns, places;
     std::vector<QVariant> params;
     for (std::size_t i = 0; i < table.fields.size(); ++i) {
-        if (!d.touched[i])
-            continue;
-        columns += (columns.empty() ? "" : ", ") + store::quoteName(table.fields[i].Name);
-        params.push_back(d.buffer[i]);
-        places += (places.empty() ? "?" : ", ?") + std::to_string(params.size());
+        if (d.touched[i])
+            params.push_back(d.buffer[i]);
     }
-    const std::string sql = params.empty()
-        ? "INSERT INTO " + table.quotedName + " DEFAULT VALUES"
-        : "INSERT INTO " + table.quotedName + " (" + columns + ") VALUES (" + places + ")";
-    sqlite3_stmt* stmt = conn.statement(sql);
+    if (d.insertSql.empty() || d.insertColumns != d.touched) {
+        std::string columns, places;
+        int n = 0;
+        for (std::size_t i = 0; i < table.fields.size(); ++i) {
+            if (!d.touched[i])
+                continue;
+            columns += (columns.empty() ? "" : ", ") + store::quoteName(table.fields[i].Name);
+            places += (places.empty() ? "?" : ", ?") + std::to_string(++n);
+        }
+        d.insertSql = params.empty()
+            ? "INSERT INTO " + table.quotedName + " DEFAULT VALUES"
+            : "INSERT INTO " + table.quotedName + " (" + columns + ") VALUES (" + places + ")";
+        d.insertColumns = d.touched;
+    }
+    sqlite3_stmt* stmt = conn.statement(d.insertSql);
     jet::bindParameters(stmt, params);
     store::runToEnd(conn, stmt);
     d.keys->keys.push_back(sqlite3_last_insert_rowid(conn.db));
@@ -509,14 +516,15 @@ void Recordset::Edit()
 
 void Recordset::Update()
 {
-    connectionOf(*d).requireWritable();
+    store::Connection& conn = connectionOf(*d);
+    conn.requireWritable();
     if (d->mode == EditMode::None)
         raise(err::UpdateWithoutEdit, QStringLiteral("Aktualisieren oder Abbrechen ohne AddNew oder Edit."));
     if (d->mode == EditMode::AddNew)
         insertRow(*d);  // joins the end of the key list; the current record stays
     else
         updateRow(*d);
-    store::noteWrite();
+    conn.noteWrite();
     dropEdit(*d);
 }
 
@@ -538,7 +546,7 @@ void Recordset::Delete()
     sqlite3_stmt* stmt = conn.statement("DELETE FROM " + d->source.table->quotedName + " WHERE rowid = ?1");
     sqlite3_bind_int64(stmt, 1, d->keys->keys[std::size_t(d->index)]);
     store::runToEnd(conn, stmt);
-    store::noteWrite();
+    conn.noteWrite();
     d->keys->markHole(std::size_t(d->index));
 }
 

@@ -45,6 +45,7 @@ constexpr int BadFileName = 52;
 constexpr int FileNotFound = 53;        // Dir/Kill/Name/FileLen on a missing file
 constexpr int PathFileAccess = 75;      // MkDir on an existing folder, a failed copy or rename
 constexpr int FileAlreadyExists = 58;   // Name onto an existing file
+constexpr int DiskFull = 61;            // a write that found no room on the disk
 constexpr int PathNotFound = 76;        // a folder that does not exist
 constexpr int PermissionDenied = 70;
 constexpr int InputPastEnd = 62;        // Input # past the end of a file

@@ -18,12 +18,19 @@ namespace store {
 
 void raise(int number, const QString& description) { throw RuntimeError(number, description); }
 
-namespace {
-std::uint64_t g_writeSerial = 1;
+std::shared_ptr<std::uint64_t> writeCounter(const QString& canonicalPath)
+{
+    static std::map<QString, std::weak_ptr<std::uint64_t>> counters;
+    std::shared_ptr<std::uint64_t> counter = counters[canonicalPath].lock();
+    if (!counter) {
+        // A file opened afresh starts past every count a cache of an earlier opening took.
+        static std::uint64_t next = 1;
+        next += 1u << 20;
+        counter = std::make_shared<std::uint64_t>(next);
+        counters[canonicalPath] = counter;
+    }
+    return counter;
 }
-
-std::uint64_t writeSerial() { return g_writeSerial; }
-void noteWrite() { ++g_writeSerial; }
 
 // ---- the lock between processes -------------------------------------------------------
 //
@@ -236,6 +243,8 @@ std::int64_t Connection::dataVersion()
 
 std::optional<int> TableInfo::column(const QString& name) const
 {
+    if (auto exact = byName.constFind(name); exact != byName.constEnd())
+        return *exact;
     auto it = byFoldedName.constFind(name.toCaseFolded());
     if (it == byFoldedName.constEnd())
         return std::nullopt;
@@ -295,6 +304,7 @@ std::shared_ptr<const TableInfo> Connection::table(const QString& name)
         info->fields.push_back(fieldFromDeclaration(column, columnValue(columns, 1).toString(),
                                                     sqlite3_column_int(columns, 2) != 0));
         info->byFoldedName.insert(column.toCaseFolded(), int(info->fields.size() - 1));
+        info->byName.insert(column, int(info->fields.size() - 1));
         list += (list.empty() ? "" : ", ") + quoteName(column);
     }
     sqlite3_reset(columns);
@@ -319,6 +329,7 @@ DatabasePtr Database::open(const QString& path, bool exclusive, bool readOnly)
     store::requireOwnFormat(path);
     auto conn = std::make_shared<Connection>();
     conn->path = QFileInfo(path).canonicalFilePath();
+    conn->writes = store::writeCounter(conn->path);
     store::holdFile(conn->path, exclusive);
     conn->exclusive = exclusive;
     conn->held = true;  // from here on the connection releases the hold
@@ -396,6 +407,27 @@ RecordsetPtr Database::createDynaset(const QString& table)
     rs->d->keys = store::newKeySet(store::selectKeys(*conn, rs->d->source));
     rs->d->placeAtFirst();
     return rs;
+}
+
+namespace {
+
+void transactionStep(const std::shared_ptr<store::Connection>& conn, const char* sql)
+{
+    if (!conn)
+        store::raise(err::ObjectClosed, QStringLiteral("Objekt ist ungültig oder nicht mehr festgelegt."));
+    const int rc = sqlite3_exec(conn->handle(), sql, nullptr, nullptr, nullptr);
+    if (rc != SQLITE_OK)
+        conn->fail(rc);
+}
+
+}  // namespace
+
+void Database::BeginTrans() { transactionStep(d->conn, "BEGIN IMMEDIATE"); }
+void Database::CommitTrans() { transactionStep(d->conn, "COMMIT"); }
+void Database::Rollback()
+{
+    transactionStep(d->conn, "ROLLBACK");
+    d->conn->noteWrite();  // what was read inside the transaction is gone
 }
 
 std::vector<FieldDef> Database::tableDef(const QString& table)

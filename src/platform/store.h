@@ -50,6 +50,11 @@ public:
 
     ~Database();
     RecordsetPtr createDynaset(const QString& table);
+    // BeginTrans, CommitTrans and Rollback of the workspace, for this database: the writes
+    // between them reach the file together, or not at all when the program dies half way.
+    void BeginTrans();
+    void CommitTrans();
+    void Rollback();
     std::vector<FieldDef> tableDef(const QString& table);
     void close();
     bool isOpen() const;

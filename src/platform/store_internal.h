@@ -28,10 +28,10 @@ constexpr int ConversionError = 3421;
 
 [[noreturn]] void raise(int number, const QString& description);
 
-// Counts every write through any connection of this process; cached row values and Find
-// matches are valid only for the count they were taken at.
-std::uint64_t writeSerial();
-void noteWrite();
+// Counts the writes of this process to one file, through any of its connections; cached
+// row values and Find matches are valid only for the count they were taken at. Writes to
+// another file leave them valid.
+std::shared_ptr<std::uint64_t> writeCounter(const QString& canonicalPath);
 // How long a cache is trusted against writes of other processes before it is checked, as
 // the old engine refreshed its pages after a while.
 constexpr auto FreshFor = std::chrono::milliseconds(100);
@@ -40,6 +40,7 @@ struct TableInfo {
     QString name;  // as the file spells it
     std::vector<FieldDef> fields;
     QHash<QString, int> byFoldedName;
+    QHash<QString, int> byName;  // as declared: most callers spell a column so, and skip the folding
     std::string quotedName;
     std::string columnList;  // every column, quoted, in the table's order
 
@@ -57,6 +58,9 @@ struct Connection {
     bool held = false;  // holds the file against other processes until destroyed
     std::unordered_map<std::string, sqlite3_stmt*> statements;
     std::map<QString, std::shared_ptr<const TableInfo>> tables;
+    std::shared_ptr<std::uint64_t> writes = std::make_shared<std::uint64_t>(1);  // shared per file
+    std::uint64_t writeSerial() const { return *writes; }
+    void noteWrite() { ++*writes; }
 
     ~Connection();
     void close();
@@ -103,7 +107,7 @@ struct RowBlock {
     std::uint64_t serial = 0;
     std::chrono::steady_clock::time_point taken;
 
-    bool holds(long index, std::chrono::steady_clock::time_point now) const;
+    bool holds(long index, std::chrono::steady_clock::time_point now, std::uint64_t writes) const;
 };
 
 // Where a dynaset's rows come from: a table, the filters in force, and the order.
@@ -176,6 +180,10 @@ struct Recordset::Impl {
     // The row as it was read when Edit began: Update refuses to write over a change another
     // program made since.
     std::vector<QVariant> original;
+    // The INSERT of the last AddNew and the columns it wrote: a run of cards that fill the
+    // same columns builds it once.
+    std::vector<bool> insertColumns;
+    std::string insertSql;
 
     void placeAtFirst();
 };

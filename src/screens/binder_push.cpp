@@ -250,9 +250,11 @@ void Binder::pushText(Binding& b, Control& control, QWidget* w)
     int maxLength = 0;
     bool locked = false;
     int alignment = -1;
+    bool hidden = false;
     if (b.kind == ControlKind::TextBox) {
         auto& t = static_cast<TextBox&>(control);
         text = t.Text, sel = &t, maxLength = t.MaxLength, locked = t.Locked, alignment = t.Alignment;
+        hidden = !t.PasswordChar.isEmpty();
     } else {
         auto& t = static_cast<RichText&>(control);
         text = t.Text, sel = &t, maxLength = t.MaxLength, locked = t.Locked;
@@ -266,6 +268,9 @@ void Binder::pushText(Binding& b, Control& control, QWidget* w)
             edit->setMaxLength(limit);
         if (edit->isReadOnly() != locked)
             edit->setReadOnly(locked);
+        const auto echo = hidden ? QLineEdit::Password : QLineEdit::Normal;
+        if (edit->echoMode() != echo)
+            edit->setEchoMode(echo);
         if (alignment >= 0 && differs(b.last.alignment, alignment))
             edit->setAlignment(toQtAlignment(alignment));
         if (edit->text() != text)

@@ -174,6 +174,26 @@ void drawFolder(QPainter& p)
     p.drawPolygon(QPolygonF({{3, 8}, {12, 8}, {15, 11}, {29, 11}, {29, 27}, {3, 27}}));
 }
 
+void drawHardDisk(QPainter& p)  // a drive box with its lamp
+{
+    pen(p, kInk, 1.5);
+    p.setBrush(QColor(200, 200, 205));
+    p.drawRoundedRect(QRectF(3, 10, 26, 13), 2, 2);
+    p.setBrush(kGreen);
+    p.drawEllipse(QPointF(24, 16.5), 2, 2);
+}
+
+void drawFloppy(QPainter& p)  // a diskette with its label and shutter
+{
+    pen(p, kInk, 1.5);
+    p.setBrush(kBlue);
+    p.drawPolygon(QPolygonF({{4, 4}, {25, 4}, {28, 7}, {28, 28}, {4, 28}}));
+    p.setBrush(kPaper);
+    p.drawRect(QRectF(8, 17, 16, 11));
+    p.setBrush(QColor(200, 200, 205));
+    p.drawRect(QRectF(10, 4, 11, 8));
+}
+
 void drawSound(QPainter& p)  // a loudspeaker
 {
     pen(p, kInk, 1.5);
@@ -323,6 +343,8 @@ const std::map<QString, Draw>& drawings()
         {QStringLiteral("dialling"), drawDialling},
         {QStringLiteral("reset1"), [](QPainter& p) { drawReset(p, kGreen); }},
         {QStringLiteral("reseting"), [](QPainter& p) { drawReset(p, kYellow); }},
+        {QStringLiteral("festplatte"), drawHardDisk},
+        {QStringLiteral("diskette"), drawFloppy},
     };
     return table;
 }

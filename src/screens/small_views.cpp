@@ -1,6 +1,7 @@
 // The notice Message, the splash AboutBox and the order form Form3, and the choice of a view.
 
 #include "screens/cidadefrm_view.h"
+#include "screens/maintenance_views.h"
 #include "screens/conversions.h"
 #include "screens/form2_view.h"
 #include "screens/printing_views.h"
@@ -45,6 +46,18 @@ FormWindow* buildMessageView(FormRegistry& forms)
     disks->addWidget(b.make(QStringLiteral("Image1")));
     disks->addWidget(b.make(QStringLiteral("Image2")));
     inner->addLayout(disks);
+    // The progress of a copy of cards: the drive's picture, the bar and the count.
+    auto* progress = new QHBoxLayout;
+    for (const char* name : {"Image1", "Image2"}) {
+        QWidget* picture = b.make(QString::fromLatin1(name));
+        picture->setFixedSize(32, 32);
+        progress->addWidget(picture);
+    }
+    QWidget* bar = b.make(QStringLiteral("picAusgabe"));
+    bar->setMinimumSize(220, 22);
+    progress->addWidget(bar, 1);
+    progress->addWidget(b.make(QStringLiteral("Label2")));
+    inner->addLayout(progress);
     return window;
 }
 
@@ -186,6 +199,12 @@ FormWindow* buildView(FormRegistry& forms, const QString& form)
         return buildSelektierungView(forms);
     if (name == QLatin1String("search"))
         return buildSearchView(forms);
+    if (name == QLatin1String("frmExport"))
+        return buildFrmExportView(forms);
+    if (name == QLatin1String("Form5"))
+        return buildForm5View(forms);
+    if (name == QLatin1String("senha"))
+        return buildSenhaView(forms);
     return buildGenericView(forms, name);
 }
 
