@@ -28,8 +28,6 @@ Message::Message()
     Image2.Picture = QStringLiteral("diskette");
     for (Control* c : std::initializer_list<Control*>{&Image1, &Image2, &picAusgabe, &Label2})
         c->Visible = false;
-    picAusgabe.BackColor = colour::White;
-    picAusgabe.ForeColor = colour::DarkBlue;
     Label2.Alignment = vbCenter;
 
     nameControls(*this, "Message");

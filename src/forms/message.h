@@ -12,12 +12,7 @@ struct Message : Form {
     ScrollBar picAusgabe;  // the progress bar of long runs: Max the whole, Value the part done
     Image Image1, Image2;  // hard disk or floppy disk
     Timer Timer1;
-    // The progress of a copy of cards: the pictures of a hard disk and a floppy disk, the bar
-    // and the count. Hidden but for that copy.
-    Image Image1;
-    Image Image2;
-    Panel picAusgabe;
-    Label Label2;
+    Label Label2;          // the count of a copy of cards: "12 / 300"
 
     Message();
     template <class V>
@@ -29,9 +24,6 @@ struct Message : Form {
         v("Image1", Image1);
         v("Image2", Image2);
         v("Timer1", Timer1);
-        v("Image1", Image1);
-        v("Image2", Image2);
-        v("picAusgabe", picAusgabe);
         v("Label2", Label2);
     }
 };

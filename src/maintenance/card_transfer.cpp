@@ -68,8 +68,9 @@ void fortschrittZeigen(Merkkartelle& app, long zahl, long gesamt)
 {
     auto& m = app.Message;
     const int prozent = gesamt > 0 ? int(zahl * 100 / gesamt) : 100;
-    m.picAusgabe.Caption = QString::number(prozent) + QStringLiteral(" %");
-    m.picAusgabe.Tag = QString::number(prozent);
+    m.picAusgabe.Min = 0;
+    m.picAusgabe.Max = 100;
+    m.picAusgabe.Value = prozent;
     m.Label2.Caption = QString::number(zahl) + QStringLiteral(" / ") + QString::number(gesamt);
 }
 

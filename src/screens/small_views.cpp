@@ -39,14 +39,9 @@ FormWindow* buildMessageView(FormRegistry& forms)
     auto* text = b.make<QLabel>(QStringLiteral("Label1"));
     text->setMinimumWidth(twipsToPixels(forms.form(QStringLiteral("Message")).Width) - 60);
     inner->addWidget(text);
-    // The count and the bar of long runs, and the disk the run works on.
+    // The progress of long runs: the count, the disk the run works on, the bar and, for a
+    // copy of cards, the count of the whole.
     inner->addWidget(b.make(QStringLiteral("Label3")));
-    inner->addWidget(b.make(QStringLiteral("picAusgabe")));
-    auto* disks = new QHBoxLayout;
-    disks->addWidget(b.make(QStringLiteral("Image1")));
-    disks->addWidget(b.make(QStringLiteral("Image2")));
-    inner->addLayout(disks);
-    // The progress of a copy of cards: the drive's picture, the bar and the count.
     auto* progress = new QHBoxLayout;
     for (const char* name : {"Image1", "Image2"}) {
         QWidget* picture = b.make(QString::fromLatin1(name));
