@@ -1,6 +1,7 @@
 #include "history/history_list.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
 #include "card/card_cursor.h"
 #include "card/mask_transfer.h"
 #include "platform/app_home.h"
@@ -142,7 +143,7 @@ void Schnelleauswahlliste_Click(M& app)
 
 void Command3D2_Click(M& app)  // save
 {
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
+    ArbeitsverzeichnisSetzen(app);
     const FileChoice wahl = app.ui.ShowSave(listenDialog(app, "Eintragsliste (*.dat)|*.dat|", "Liste speichern"));
     if (wahl.cancelled || wahl.FileName.isEmpty())
         return;

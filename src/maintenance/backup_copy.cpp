@@ -1,6 +1,7 @@
 #include "maintenance/backup_copy.h"
 
 #include "card/app_state.h"
+#include "card/card_editing.h"
 #include "card/notice.h"
 #include "card/session.h"
 #include "platform/app_home.h"
@@ -165,7 +166,7 @@ void Form5_Load(Merkkartelle& app)
 {
     auto& f = form(app);
     f.Label2.Caption = joinPath(app.Arbeitsverzeichnis, app.Datenbankdatei);
-    f.Label4.Caption = app.clock.Time().toString(QStringLiteral("HH:mm:ss"));
+    f.Label4.Caption = ZeitText(app);
     laufwerkeEinlesen(app);
     const QString laufwerk = app.Einstellungsliste[kLaufwerkEintrag];
     const QString verzeichnis = app.Einstellungsliste[kVerzeichnisEintrag];

@@ -1,6 +1,7 @@
 #include "telephony/call_log.h"
 
 #include "card/app_state.h"
+#include "card/card_editing.h"
 #include "platform/text_files.h"
 
 #include <QStringList>
@@ -13,19 +14,6 @@ using M = Merkkartelle;
 
 const QString kLeereNummer = QStringLiteral("------------------------");
 constexpr int kListenbreite = 40;
-
-// Date and time as the text columns take them: the short date the main form read from the
-// locale at start (Label3), and the time.
-QString Datumstext(M& app)
-{
-    const QString format = app.Hauptmaske.Label3.Caption;
-    return app.clock.Date().toString(format.isEmpty() ? QStringLiteral("dd.MM.yyyy") : format);
-}
-
-QString Zeittext(M& app)
-{
-    return app.clock.Time().toString(QStringLiteral("HH:mm:ss"));
-}
 
 // Every step on the table on its own, under ignored errors.
 template <class Step>
@@ -53,14 +41,14 @@ void AnrufBeginnen(M& app)
     schritt(app, [](Recordset& s) { s.AddNew(); });
     schritt(app, [&](Recordset& s) { setzen(s, "PhoneNumber", app.DIALER.Text6.Text); });
     schritt(app, [&](Recordset& s) { setzen(s, "Name", app.DIALER.Text1.Text); });
-    schritt(app, [&](Recordset& s) { setzen(s, "Datainicial", Datumstext(app)); });
-    schritt(app, [&](Recordset& s) { setzen(s, "Horainicial", Zeittext(app)); });
+    schritt(app, [&](Recordset& s) { setzen(s, "Datainicial", DatumText(app)); });
+    schritt(app, [&](Recordset& s) { setzen(s, "Horainicial", ZeitText(app)); });
 }
 
 void AnrufBeenden(M& app)
 {
-    schritt(app, [&](Recordset& s) { setzen(s, "Datafinal", Datumstext(app)); });
-    schritt(app, [&](Recordset& s) { setzen(s, "Horafinal", Zeittext(app)); });
+    schritt(app, [&](Recordset& s) { setzen(s, "Datafinal", DatumText(app)); });
+    schritt(app, [&](Recordset& s) { setzen(s, "Horafinal", ZeitText(app)); });
     schritt(app, [](Recordset& s) { s.Update(); });
     schritt(app, [](Recordset& s) { s.MoveLast(); });
     // The list follows the log while it is open.

@@ -1,6 +1,8 @@
 #include "telephony/dialer.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
+#include "card/card_editing.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
@@ -46,11 +48,6 @@ void Status(M& app, const char* text, long hinten, long schrift)
 bool zeigt(const Button& knopf, const Image& bild)
 {
     return knopf.Picture == bild.Picture;
-}
-
-QString Uhrzeit(M& app)
-{
-    return app.clock.Time().toString(QStringLiteral("HH:mm:ss"));
 }
 
 // Writing to a closed port is ignored, as the old control's error was.
@@ -103,7 +100,7 @@ void falscherPort(M& app)
 void Zeitstempel(M& app)
 {
     app.DIALER.Label5.Caption.clear();
-    app.DIALER.Label4.Caption = Uhrzeit(app);
+    app.DIALER.Label4.Caption = ZeitText(app);
 }
 
 // The reply words of a call being set up. True when the loop is to end (the user is asked
@@ -301,7 +298,7 @@ void NummerAusFeld(M& app, const QString& nummer)
 
 void DIALER_Load(M& app)
 {
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
+    ArbeitsverzeichnisSetzen(app);
     DialerKonfigurationLesen(app);
 }
 
@@ -385,7 +382,7 @@ void DIALER_Command3D3_Click(M& app)
     programmklang(app, "mapaexit.wav");
     d.Beenden = true;
     d.Label3.Caption = QStringLiteral("0");
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
+    ArbeitsverzeichnisSetzen(app);
     DialerKonfigurationSchreiben(app);
     hideForm(app, app.Form1);
     hideForm(app, app.Form10);
@@ -475,7 +472,7 @@ void DIALER_SSCommand_Click(M& app, int which)
 
 void DIALER_Timer1_Timer(M& app)
 {
-    app.DIALER.Label2.Caption = Uhrzeit(app);
+    app.DIALER.Label2.Caption = ZeitText(app);
 }
 
 QString DialerTastenbelegung()

@@ -1,6 +1,7 @@
 #include "telephony/modem_config.h"
 
 #include "card/app_state.h"
+#include "card/session.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
@@ -252,7 +253,7 @@ void Form10_Command2_Click(M& app)
 
 void Form10_Command3_Click(M& app)
 {
-    underIgnoredErrors([&] { ChDir(app.Arbeitsverzeichnis); });
+    ArbeitsverzeichnisSetzen(app);
     DialerKonfigurationLesen(app);
 }
 
