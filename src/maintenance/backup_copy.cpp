@@ -4,6 +4,7 @@
 #include "card/card_editing.h"
 #include "card/notice.h"
 #include "card/session.h"
+#include "history/history_list.h"
 #include "platform/app_home.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -237,6 +238,8 @@ void KopierenUndBeenden_Click(Merkkartelle& app)
     f.Label5.Caption = QStringLiteral("Speichere konfiguration...");
     app.Hauptmaske.Label36.Caption = app.Hauptmaske.LaufendeNummer.Caption;
     underIgnoredErrors([&] { EinstellungenSchreiben(app); });
+    if (app.config.Check3D5.checked())
+        VerlaufSichern(app);
 
     f.Label5.Caption = QStringLiteral("Abgeschlossen !");
     SitzungZaehlen(app);
