@@ -235,6 +235,10 @@ void Hauptmaske_Load(Merkkartelle& app)
     LetzteKarteZeigen(app);
     unloadForm(app, app.AboutBox);
     StandardBenennungEinlesen(app, NamingReset::AtStart);
+    // With "Verlauf speichern" on, the cards visited in the last session come back into the
+    // history list.
+    if (app.config.Check3D5.checked())
+        VerlaufLaden(app, joinPath(applicationHome(), kLetzterVerlauf));
 }
 
 void ArbeitsverzeichnisSetzen(Merkkartelle& app)

@@ -121,6 +121,24 @@ TEST_F(Restart, TheDescendingOrderAndThePlaceOfTheOrderFormAreKept)
     EXPECT_EQ(s.app.Einstellungsliste[66], QStringLiteral("True"));
 }
 
+TEST_F(Restart, TheVisitedCardsComeBackInTheHistoryWhenItIsKept)
+{
+    {
+        ScriptedSystem s;
+        Start(s.app);
+        for (const char* name : {"Adler", "Zander"})
+            saveCard(s, name);
+        s.app.config.Check3D5.Value = 1;
+        click(s, QStringLiteral("Hauptmaske.EinznachHinten"));
+        click(s, QStringLiteral("Hauptmaske.EinzNachvorne"));
+        ASSERT_EQ(s.app.replay.Schnelleauswahlliste.ListCount(), 2);
+        end(s);
+    }
+    ScriptedSystem s;
+    Start(s.app);
+    EXPECT_EQ(s.app.replay.Schnelleauswahlliste.ListCount(), 2);
+}
+
 TEST_F(Restart, TheTypeNamesOfAFirstStartComeBackAndNamingStartsFromThem)
 {
     {
