@@ -13,12 +13,10 @@ class HistoryViews : public ScreensTest {
 protected:
     void save(const QString& form, const QString& name)
     {
-        const QString folder = QStringLiteral(MK_BUILD_DIR) + QStringLiteral("/screens");
-        QDir().mkpath(folder);
         QWidget* window = binder.window(form);
         EXPECT_LE(window->minimumSizeHint().width(), 1280) << name.toStdString();
         EXPECT_LE(window->minimumSizeHint().height(), 770) << name.toStdString();
-        ASSERT_TRUE(window->grab().save(folder + u'/' + name + QStringLiteral(".png")));
+        ASSERT_TRUE(savePicture(window, name));
     }
 };
 

@@ -19,13 +19,6 @@
 namespace mk::test {
 namespace {
 
-QString pictures()
-{
-    const QString folder = QStringLiteral(MK_BUILD_DIR) + QStringLiteral("/screens");
-    QDir().mkpath(folder);
-    return folder;
-}
-
 class PrintingViews : public ScreensTest {
 protected:
     void SetUp() override
@@ -78,7 +71,7 @@ protected:
         const QSize least = window->minimumSizeHint();
         EXPECT_LE(least.width(), 1280) << name.toStdString();
         EXPECT_LE(least.height(), 770) << name.toStdString();
-        ASSERT_TRUE(window->grab().save(pictures() + u'/' + name + QStringLiteral(".png")));
+        ASSERT_TRUE(savePicture(window, name));
     }
 
     QTemporaryDir dir;
@@ -128,8 +121,8 @@ TEST_F(PrintingViews, LabelsOfAllCardsGoIntoARealPdf)
     const QByteArray bytes = file.readAll();
     EXPECT_TRUE(bytes.startsWith("%PDF"));
     EXPECT_GT(bytes.size(), 2000);
-    QFile::remove(pictures() + QStringLiteral("/etiketten.pdf"));
-    QFile::copy(pdf, pictures() + QStringLiteral("/etiketten.pdf"));
+    QFile::remove(pictureFolder() + QStringLiteral("/etiketten.pdf"));
+    QFile::copy(pdf, pictureFolder() + QStringLiteral("/etiketten.pdf"));
 }
 
 // With no printer installed, the first page offers a PDF file; a cancelled choice prints

@@ -8,10 +8,25 @@
 #include "screens/qt_user_interface.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QWidget>
 #include <gtest/gtest.h>
 
 namespace mk::test {
+
+// Where the screens tests leave their pictures, made when missing.
+inline QString pictureFolder()
+{
+    const QString folder = QStringLiteral(MK_BUILD_DIR) + QStringLiteral("/screens");
+    QDir().mkpath(folder);
+    return folder;
+}
+
+// A window grabbed into build/screens/NAME.png.
+inline bool savePicture(QWidget* window, const QString& name)
+{
+    return window->grab().save(pictureFolder() + u'/' + name + QStringLiteral(".png"));
+}
 
 class ScreensTest : public ::testing::Test {
 protected:

@@ -20,10 +20,7 @@ class SearchViewsTest : public ScreensTest {
 protected:
     void save(const QString& form)
     {
-        const QString folder = QStringLiteral(MK_BUILD_DIR) + QStringLiteral("/screens");
-        QDir().mkpath(folder);
-        QWidget* window = binder.window(form);
-        ASSERT_TRUE(window->grab().save(folder + u'/' + form + QStringLiteral("-filled.png")));
+        ASSERT_TRUE(savePicture(binder.window(form), form + QStringLiteral("-filled")));
     }
 };
 

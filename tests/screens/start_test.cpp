@@ -6,6 +6,7 @@
 #include "screens/binder.h"
 #include "screens/desktop.h"
 #include "screens/qt_user_interface.h"
+#include "screens_fixture.h"
 
 #include <QApplication>
 #include <QDir>
@@ -60,10 +61,8 @@ TEST_F(StartTest, AFirstStartShowsTheMaskWithoutAQuestion)
     EXPECT_EQ(main->windowTitle(), app.Hauptmaske.Caption);
     EXPECT_FALSE(binder.window("AboutBox")->isVisible());
 
-    const QString folder = QStringLiteral(MK_BUILD_DIR) + QStringLiteral("/screens");
-    QDir().mkpath(folder);
     main->resize(1280, 800);
-    EXPECT_TRUE(main->grab().save(folder + QStringLiteral("/Hauptmaske-Start.png")));
+    EXPECT_TRUE(savePicture(main, QStringLiteral("Hauptmaske-Start")));
 }
 
 }  // namespace

@@ -14,13 +14,6 @@
 namespace mk::test {
 namespace {
 
-QString pictureFolder()
-{
-    const QString folder = QStringLiteral(MK_BUILD_DIR) + QStringLiteral("/screens");
-    QDir().mkpath(folder);
-    return folder;
-}
-
 class ViewsTest : public ScreensTest {
 protected:
     // A card as the mask shows it after a start, so that the pictures show a working mask.
@@ -66,8 +59,7 @@ protected:
 
     void save(QWidget* window, const QString& name)
     {
-        const QString path = pictureFolder() + u'/' + name + QStringLiteral(".png");
-        ASSERT_TRUE(window->grab().save(path)) << path.toStdString();
+        ASSERT_TRUE(savePicture(window, name)) << name.toStdString();
     }
 };
 
